@@ -1,0 +1,48 @@
+#pragma once
+
+// The text type of the whole program, and the few operations of the host language that the logic is written in:
+// columns count from 1 and are UTF-16 code units, trimming removes the blank U+0020 and nothing else, and a search that
+// finds nothing answers 0.
+
+#include <string>
+#include <string_view>
+
+namespace zentlor {
+
+using Text = std::u16string;
+using TextView = std::u16string_view;
+
+/// `text` without the blanks U+0020 at its start.
+TextView LTrim(TextView text);
+/// `text` without the blanks U+0020 at its end.
+TextView RTrim(TextView text);
+/// `text` without the blanks U+0020 at both ends. Tabs and other white space stay.
+TextView Trim(TextView text);
+
+/// The column of the first `needle` in `text` at or behind column `start`, or 0. `start` below 1 counts as 1.
+int InStr(int start, TextView text, TextView needle);
+int InStr(int start, TextView text, char16_t needle);
+
+/// The `length` characters of `text` from column `start` on, fewer where the text ends; empty for `start` behind the end.
+/// Columns in front of the text hold nothing: a `start` below 1 gives the empty text.
+TextView Mid(TextView text, int start, int length);
+TextView Mid(TextView text, int start);
+
+/// The number of characters, in the signed form in which columns are kept.
+inline int Len(TextView text) { return static_cast<int>(text.size()); }
+
+/// `number` in decimal, without blanks.
+Text ToText(long long number);
+
+/// `text` with every `from` replaced by `to`, from the first character on. An empty `from` changes nothing.
+Text ReplaceAll(TextView text, TextView from, TextView to);
+
+/// Letters, digits and "_" in the sense of a whole-word search: every letter and digit of Unicode's basic plane.
+bool IsWordCharacter(char16_t c);
+
+/// Simple lower case of one code unit, for comparisons that ignore case: Latin, Greek and Cyrillic letters; all other
+/// characters are themselves.
+char16_t FoldCase(char16_t c);
+bool EqualIgnoringCase(TextView a, TextView b);
+
+}  // namespace zentlor

@@ -1,0 +1,107 @@
+#pragma once
+
+// What a reader delivers: the modules of one document, as plain data. A reader knows its file format and nothing of
+// checks, options or output; what it hands over is the text that the editor would show.
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "core/utilities/text.h"
+
+namespace zentlor::readers {
+
+/// The editor's numbers for the kinds of component (vbext_ComponentType).
+enum class ModuleType { Standard = 1, Class = 2, Form = 3, Document = 100 };
+
+/// One module as the editor shows it.
+struct SourceModule {
+    Text name;
+    ModuleType type = ModuleType::Standard;
+    /// Where the module was found: the file of an exported module, the document of a module inside of one.
+    std::string path;
+    /// The code without headers and `Attribute` lines, its lines ended by LF; a last LF makes no further line.
+    Text code;
+    /// For every line of `code` the line of the file that it was read from, counted from 1. Empty: the two are equal.
+    std::vector<std::uint32_t> fileLines;
+    /// What the file held in front of the code and between its lines, as far as an export has to give it back:
+    /// the header (`VERSION` … `END`) and the `Attribute` lines at the top, their lines ended by LF.
+    Text header;
+};
+
+/// A control of an Access form or report: its name, and the number of its AcControlType.
+struct FormControl {
+    Text name;
+    int type = 0;
+};
+
+/// An Access form or report with its controls.
+struct FormLayout {
+    Text name;
+    bool report = false;
+    std::vector<FormControl> controls;
+};
+
+/// A sentence for the user, complete with its full stop, in both languages of the program. UTF-8.
+struct Sentence {
+    std::string german;
+    std::string english;
+};
+
+/// Everything that was read from one document (or from one folder of exported modules).
+struct Document {
+    std::string path;
+    /// The project's own name (`PROJECT` stream, `dir`), or the file's stem.
+    Text projectName;
+    /// What the file is, for a person: "Excel workbook (Office Open XML)", "Access 2007–2019 database", …
+    Sentence description;
+    /// The program that wrote it, with version, as far as the file tells; else empty.
+    std::string application;
+    /// The project's code page (1252, 932, 10000 …), 0 where there is none.
+    int codePage = 0;
+    /// The project is locked for viewing. Its source is readable all the same.
+    bool locked = false;
+    std::vector<SourceModule> modules;
+    std::vector<FormLayout> layouts;
+    /// The project's references, as a person reads them.
+    std::vector<Text> references;
+    /// What was wrong with the document although modules were read: damage, undecodable bytes, a limit that was hit.
+    /// Each makes the result a partial one.
+    std::vector<Sentence> problems;
+};
+
+/// Why a document gave nothing.
+enum class ReadFailure {
+    NotFound,      ///< no such file, or it vanished while being read
+    NoPermission,  ///< the file may not be read
+    NotAFile,      ///< a FIFO, a socket or a device
+    NotADocument,  ///< neither an Office nor an Access file nor an exported module
+    Encrypted,     ///< needs a password
+    CompiledOnly,  ///< the source was removed, only compiled code is left
+    Damaged,       ///< truncated or inconsistent
+    Limit,         ///< larger than a limit of `Limits`
+    Unsupported,   ///< recognised, and of a kind that is not read
+};
+
+/// The one error that readers throw. `what()` is the English sentence.
+class ReadError : public std::runtime_error {
+  public:
+    ReadError(ReadFailure why, Sentence text) : std::runtime_error(text.english), failure(why), sentence(std::move(text)) {}
+    ReadFailure failure;
+    Sentence sentence;
+};
+
+/// Bounds on what a reader takes in, so that a hostile file costs neither memory nor time without end. A bound that is
+/// hit is reported (ReadFailure::Limit or a problem of the document) and never passed over in silence.
+struct Limits {
+    std::uint64_t fileBytes = 2048ull << 20;      ///< size of a file
+    std::uint64_t zipPartBytes = 256ull << 20;    ///< unpacked size of one part of a zip
+    std::uint32_t zipParts = 1000;                ///< parts of a zip
+    std::uint32_t zipRatio = 200;                 ///< unpacked to packed size, behind the first MiB
+    std::uint64_t moduleBytes = 16ull << 20;      ///< text of one module
+    std::uint32_t modules = 32767;                ///< modules of one project
+    std::uint32_t storageDepth = 16;              ///< nested storages of a compound file
+};
+
+}  // namespace zentlor::readers
