@@ -1,0 +1,20 @@
+#pragma once
+
+// How a reader speaks to the user: one sentence that names the file, what is wrong and the way out, in both languages.
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "readers/document.h"
+
+namespace zentlor::readers {
+
+/// The two sentences with "[%1]", "[%2]" … replaced by `values`. Values are UTF-8 and are not searched again.
+Sentence MakeSentence(std::string_view german, std::string_view english, std::initializer_list<std::string> values);
+
+/// Throws the `ReadError` of these sentences, filled as `MakeSentence` does.
+[[noreturn]] void Fail(ReadFailure why, std::string_view german, std::string_view english,
+                       std::initializer_list<std::string> values);
+
+}  // namespace zentlor::readers
