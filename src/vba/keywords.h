@@ -1,0 +1,29 @@
+#pragma once
+
+// The words that VBA gives a meaning of their own ([MS-VBAL] 3.3.5.2), in the capitalisation in which the editor stores
+// them. A reserved word is never a declared name; a contextual one is a keyword in some places and a name in all
+// others.
+
+#include <cstdint>
+
+#include "core/utilities/text.h"
+
+namespace zentlor::vba {
+
+enum class Keyword : std::uint16_t {
+    None,
+#define KEYWORD(word, reservation) word,
+#include "vba/keywords.def"
+#undef KEYWORD
+};
+
+/// The keyword that `word` is in any capitalisation, or `Keyword::None`. `word` holds ASCII characters alone.
+Keyword FindKeyword(TextView word);
+
+/// The keyword as the editor writes it; empty for `None`.
+TextView Spelling(Keyword keyword);
+
+/// True for words that can't be declared as a name: `Dim`, `And`, `True`; False for `Name`, `Date`, `Len`, `Me`.
+bool IsReserved(Keyword keyword);
+
+}  // namespace zentlor::vba

@@ -1,0 +1,103 @@
+#pragma once
+
+// What the tokenizer makes of a module's text: one flat run of small tokens in the order of the text. Blanks and tabs
+// belong to no token; every other character belongs to exactly one. Each physical line's end lies in one `EndOfLine` or
+// one `Continuation`, so the line of a token is 1 + the number of these two in front of it.
+
+#include <cstdint>
+#include <vector>
+
+#include "core/utilities/text.h"
+#include "vba/keywords.h"
+
+namespace zentlor::vba {
+
+enum class TokenKind : std::uint8_t {
+    EndOfText,     ///< The last token of every run, and the only one of its kind; length 0.
+    EndOfLine,     ///< The line feed; length 0 where the text's last line has none.
+    Continuation,  ///< "_" at a line's end, the blanks behind it and the line feed; in code and in comments.
+    Name,          ///< A word that may be a name. `keyword` says which keyword it is where its place makes it one.
+    Keyword,       ///< A word that is never a declared name, unless it is a member behind "." or "!" (then a `Name`).
+    Integer,       ///< Decimal digits, a suffix included; also a line number.
+    Hexadecimal,   ///< `&HFF`, a suffix included.
+    Octal,         ///< `&O17` and `&17`, a suffix included.
+    Float,         ///< With point or exponent (E or D), a suffix included.
+    Date,          ///< `#1/31/2000 5:00:00 PM#`
+    String,        ///< The quotation marks included.
+    Operator,      ///< Operators and punctuation; `op` says which.
+    Directive,     ///< `#If`, `#ElseIf`, `#Else`, `#End` (an `If` follows) or `#Const`; `keyword` holds the word.
+    Comment,       ///< From "'" or "Rem" to the line's end or to the continuation's blank; then line by line on.
+    Unknown,       ///< Characters that VBA has no use for.
+};
+
+enum class Operator : std::uint16_t {
+    None,
+    Plus,
+    Minus,
+    Times,
+    Divide,
+    IntegerDivide,
+    Power,
+    Concatenate,
+    Equal,  ///< Comparison and assignment.
+    Less,
+    Greater,
+    LessEqual,     ///< "<=", "=<", blanks in between allowed
+    GreaterEqual,  ///< ">=", "=>"
+    NotEqual,      ///< "<>", "><"
+    Assign,        ///< ":=" of a named argument
+    Colon,
+    Comma,
+    Semicolon,
+    Dot,
+    Bang,
+    Hash,  ///< In front of a file number.
+    OpenParenthesis,
+    CloseParenthesis,
+    Question,  ///< The short form of `Print`.
+};
+
+/// Facts about one token, as bits of `Token::flags`.
+enum TokenFlag : std::uint8_t {
+    kMember = 1,         ///< Name directly behind "." or "!": a member whatever the word is.
+    kTypeCharacter = 2,  ///< Name whose last character is one of "%&^!#@$".
+    kBracketed = 4,      ///< Name in brackets: `[Name]`; the brackets are part of the token.
+    kUnterminated = 8,   ///< String whose closing mark is missing: it ends with its line.
+    kWide = 16,          ///< The token holds characters outside of ASCII.
+};
+
+/// Positions and lengths are in UTF-16 code units from the text's start.
+struct Token {
+    std::uint32_t offset = 0;
+    std::uint32_t length = 0;
+    TokenKind kind = TokenKind::EndOfText;
+    std::uint8_t flags = 0;
+    std::uint16_t id = 0;  ///< A `Keyword` for words and directives, an `Operator` for operators, else 0.
+
+    Keyword keyword() const { return kind == TokenKind::Operator ? Keyword::None : static_cast<Keyword>(id); }
+    Operator op() const { return kind == TokenKind::Operator ? static_cast<Operator>(id) : Operator::None; }
+    bool Is(Keyword word) const { return keyword() == word && (flags & kMember) == 0; }
+    bool Is(Operator which) const { return op() == which; }
+    bool Is(TokenKind which) const { return kind == which; }
+    bool Has(TokenFlag flag) const { return (flags & flag) != 0; }
+    bool IsWord() const { return kind == TokenKind::Name || kind == TokenKind::Keyword; }
+    std::uint32_t End() const { return offset + length; }
+};
+
+static_assert(sizeof(Token) == 12);
+
+using Tokens = std::vector<Token>;
+
+inline TextView TextOf(const Token& token, TextView text) {
+    return text.substr(token.offset, token.length);
+}
+
+/// The name itself: without brackets and without a type character.
+inline TextView NameOf(const Token& token, TextView text) {
+    TextView name = TextOf(token, text);
+    if (token.Has(kTypeCharacter)) name.remove_suffix(1);
+    if (token.Has(kBracketed)) name = name.substr(1, name.size() - 2);
+    return name;
+}
+
+}  // namespace zentlor::vba

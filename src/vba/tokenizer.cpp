@@ -1,0 +1,389 @@
+// The tokenizer walks over the text once. At each place the first character decides what begins there; blanks are
+// stepped over. Few places need a look at the token before: "#" behind `Print` opens a file number and no date, a word
+// behind
+// "." is a member, "." between a name and a digit is no decimal point. A comment lasts as long as its lines are
+// continued.
+
+#include "vba/tokenizer.h"
+
+#include "vba/characters.h"
+#include "vba/date_literal.h"
+
+namespace zentlor::vba {
+namespace {
+
+class Scanner {
+  public:
+    Scanner(TextView text, Tokens& tokens) : text_(text), tokens_(tokens) {}
+
+    void Run() {
+        while (true) {
+            while (at_ < text_.size() && HasTrait(text_[at_], kBlank)) ++at_;
+            if (at_ == text_.size()) break;
+            ScanToken();
+        }
+        if (!tokens_.empty() && tokens_.back().kind != TokenKind::EndOfLine) Add(TokenKind::EndOfLine, 0);
+        Add(TokenKind::EndOfText, 0);
+    }
+
+  private:
+    // The character `ahead` places behind the current one in its ASCII form, or 0 behind the end.
+    char16_t Peek(std::size_t ahead = 0) const {
+        return at_ + ahead < text_.size() ? FoldWidth(text_[at_ + ahead]) : u'\0';
+    }
+    char16_t CharacterAt(std::size_t place) const { return place < text_.size() ? FoldWidth(text_[place]) : u'\0'; }
+    bool HasTraitAt(std::size_t place, std::uint8_t traits) const {
+        return place < text_.size() && HasTrait(text_[place], traits);
+    }
+    std::size_t SkipBlanks(std::size_t place) const {
+        while (HasTraitAt(place, kBlank)) ++place;
+        return place;
+    }
+    std::size_t SkipDigits(std::size_t place) const {
+        while (HasTraitAt(place, kDigit)) ++place;
+        return place;
+    }
+
+    void Add(TokenKind kind, std::size_t length, std::uint16_t id = 0, std::uint8_t flags = 0) {
+        Token token;
+        token.offset = static_cast<std::uint32_t>(at_);
+        token.length = static_cast<std::uint32_t>(length);
+        token.kind = kind;
+        token.flags = flags;
+        token.id = id;
+        tokens_.push_back(token);
+        if (kind != TokenKind::Continuation) previous_ = token;
+        at_ += length;
+    }
+    void AddOperator(Operator op, std::size_t length) {
+        Add(TokenKind::Operator, length, static_cast<std::uint16_t>(op));
+    }
+
+    void ScanToken() {
+        const char16_t c = FoldWidth(text_[at_]);
+        if (HasTrait(c, kNameStart)) return ScanWord();
+        if (HasTrait(c, kDigit)) return ScanNumber();
+        switch (c) {
+            case u'\n':
+                return Add(TokenKind::EndOfLine, 1);
+            case u'"':
+                return ScanString();
+            case u'\'':
+                return ScanComment(1);
+            case u'_':
+                return ScanUnderscore();
+            case u'[':
+                return ScanBrackets();
+            case u'#':
+                return ScanHash();
+            case u'&':
+                return ScanAmpersand();
+            case u'.':
+                return ScanDot();
+            default:
+                return ScanOperator(c);
+        }
+    }
+
+    void ScanWord() {
+        std::size_t end = at_ + 1;
+        std::uint8_t flags = text_[at_] < 128 ? 0 : kWide;
+        while (HasTraitAt(end, kNamePart)) {
+            if (text_[end] >= 128) flags |= kWide;
+            ++end;
+        }
+        if (previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang)) flags |= kMember;
+        const Keyword keyword = KeywordOf(text_.substr(at_, end - at_), flags);
+        const bool isKeyword = IsReserved(keyword) && (flags & kMember) == 0;
+        if (!isKeyword && IsTypeCharacter(end, keyword)) {
+            flags |= kTypeCharacter;
+            ++end;
+        }
+        if (keyword == Keyword::Rem && isKeyword) return ScanComment(end - at_);
+        Add(isKeyword ? TokenKind::Keyword : TokenKind::Name, end - at_, static_cast<std::uint16_t>(keyword), flags);
+    }
+
+    static Keyword KeywordOf(TextView word, std::uint8_t flags) {
+        if ((flags & kWide) == 0) return FindKeyword(word);
+        char16_t narrow[16];
+        if (word.size() > std::size(narrow)) return Keyword::None;
+        for (std::size_t i = 0; i < word.size(); ++i) {
+            narrow[i] = FoldWidth(word[i]);
+            if (narrow[i] >= 128) return Keyword::None;
+        }
+        return FindKeyword(TextView(narrow, word.size()));
+    }
+
+    // Whether the character at `place`, directly behind a name, is the name's type character. "!" in front of a name
+    // asks for a member, "&" in front of an operand joins, and "^" raises to a power where an operand follows.
+    bool IsTypeCharacter(std::size_t place, Keyword keyword) const {
+        switch (CharacterAt(place)) {
+            case u'%':
+            case u'@':
+            case u'$':
+                return true;
+            case u'#':
+                return keyword != Keyword::Input && keyword != Keyword::Seek && keyword != Keyword::Width;
+            case u'!':
+                return !HasTraitAt(place + 1, kNameStart) && CharacterAt(place + 1) != u'[';
+            case u'&':
+                return !HasTraitAt(place + 1, kNamePart) && CharacterAt(place + 1) != u'"';
+            case u'^':
+                return !IsOperandStart(place + 1);
+            default:
+                return false;
+        }
+    }
+    bool IsOperandStart(std::size_t place) const {
+        if (CharacterAt(place) == u'-') return true;
+        place = SkipBlanks(place);
+        const char16_t c = CharacterAt(place);
+        return HasTraitAt(place, kNamePart) || c == u'(' || c == u'.' || c == u'[';
+    }
+
+    void ScanNumber() {
+        std::size_t end = SkipDigits(at_);
+        TokenKind kind = TokenKind::Integer;
+        if (CharacterAt(end) == u'.') {
+            kind = TokenKind::Float;
+            end = SkipDigits(end + 1);
+        }
+        const char16_t exponent = LowerAscii(CharacterAt(end));
+        if (exponent == u'e' || exponent == u'd') {
+            const char16_t sign = CharacterAt(end + 1);
+            const std::size_t digits = end + (sign == u'+' || sign == u'-' ? 2 : 1);
+            if (HasTraitAt(digits, kDigit)) {
+                kind = TokenKind::Float;
+                end = SkipDigits(digits);
+            }
+        }
+        Add(kind, SkipNumberSuffix(end) - at_);
+    }
+
+    std::size_t SkipNumberSuffix(std::size_t place) const {
+        switch (CharacterAt(place)) {
+            case u'%':
+            case u'!':
+            case u'#':
+            case u'@':
+                return place + 1;
+            case u'&':
+                return CharacterAt(place + 1) == u'"' ? place : place + 1;
+            case u'^':
+                return IsOperandStart(place + 1) ? place : place + 1;
+            default:
+                return place;
+        }
+    }
+
+    void ScanString() {
+        std::size_t end = at_ + 1;
+        while (end < text_.size() && text_[end] != u'\n') {
+            if (text_[end] != u'"') {
+                ++end;
+            } else if (end + 1 < text_.size() && text_[end + 1] == u'"') {
+                end += 2;
+            } else {
+                return Add(TokenKind::String, end + 1 - at_);
+            }
+        }
+        Add(TokenKind::String, end - at_, 0, kUnterminated);
+    }
+
+    // A comment whose mark ("'" or "Rem") has `mark` characters. Each of its lines becomes a token of its own.
+    void ScanComment(std::size_t mark) {
+        std::size_t place = at_ + mark;
+        while (true) {
+            while (place < text_.size() && text_[place] != u'\n') ++place;
+            std::size_t last = place;
+            while (last > at_ && HasTrait(text_[last - 1], kBlank)) --last;
+            const bool continues =
+                last > at_ && text_[last - 1] == u'_' && (last - 1 == at_ || HasTrait(text_[last - 2], kBlank));
+            const std::size_t end = continues ? last - 1 : place;
+            if (end > at_) Add(TokenKind::Comment, end - at_);
+            if (!continues) return;
+            place = place < text_.size() ? place + 1 : place;
+            Add(TokenKind::Continuation, place - at_);
+        }
+    }
+
+    void ScanUnderscore() {
+        std::size_t end = SkipBlanks(at_ + 1);
+        if (end == text_.size() || text_[end] == u'\n') {
+            return Add(TokenKind::Continuation, std::min(end + 1, text_.size()) - at_);
+        }
+        end = at_ + 1;
+        while (HasTraitAt(end, kNamePart)) ++end;
+        Add(TokenKind::Unknown, end - at_);
+    }
+
+    void ScanBrackets() {
+        std::size_t end = at_ + 1;
+        while (end < text_.size() && text_[end] != u'\n' && text_[end] != u']') ++end;
+        if (CharacterAt(end) != u']' || end == at_ + 1) return Add(TokenKind::Unknown, 1);
+        const bool isMember = previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang);
+        Add(TokenKind::Name, end + 1 - at_, 0, static_cast<std::uint8_t>(kBracketed | (isMember ? kMember : 0)));
+    }
+
+    void ScanHash() {
+        const bool isFirst = tokens_.empty() || tokens_.back().kind == TokenKind::EndOfLine;
+        if (isFirst && ScanDirective()) return;
+        const std::size_t length = OpensFileNumber() ? 0 : DateLiteralLength(text_.substr(at_));
+        if (length > 0) return Add(TokenKind::Date, length);
+        AddOperator(Operator::Hash, 1);
+    }
+
+    bool ScanDirective() {
+        const std::size_t start = SkipBlanks(at_ + 1);
+        std::size_t end = start;
+        while (HasTraitAt(end, kNamePart)) ++end;
+        const Keyword keyword = KeywordOf(text_.substr(start, end - start), kWide);
+        switch (keyword) {
+            case Keyword::If:
+            case Keyword::ElseIf:
+            case Keyword::Else:
+            case Keyword::End:
+            case Keyword::EndIf:
+            case Keyword::Const:
+                Add(TokenKind::Directive, end - at_, static_cast<std::uint16_t>(keyword));
+                return true;
+            default:
+                return false;
+        }
+    }
+
+    // Behind these words a "#" stands in front of a file number, whatever else could be read there.
+    bool OpensFileNumber() const {
+        switch (previous_.keyword()) {
+            case Keyword::As:
+            case Keyword::Close:
+            case Keyword::Get:
+            case Keyword::Input:
+            case Keyword::Lock:
+            case Keyword::Print:
+            case Keyword::Put:
+            case Keyword::Seek:
+            case Keyword::Unlock:
+            case Keyword::Width:
+            case Keyword::Write:
+                return previous_.IsWord();
+            default:
+                return false;
+        }
+    }
+
+    // "&H" and "&O" open a number unless they run on as a name; digits behind "&" do unless an operand ends there.
+    void ScanAmpersand() {
+        const char16_t base = LowerAscii(Peek(1));
+        const bool behindOperand = EndsOperand() && (previous_.End() == at_ || !previous_.IsWord());
+        std::size_t end = at_ + (base == u'h' || base == u'o' ? 2 : 1);
+        const std::uint8_t digit = base == u'h' ? kHexDigit : kDigit;
+        const std::size_t start = end;
+        while (HasTraitAt(end, digit)) ++end;
+        if (behindOperand || end == start || HasTraitAt(end, kNamePart)) return AddOperator(Operator::Concatenate, 1);
+        const char16_t suffix = CharacterAt(end);
+        if (suffix == u'&' || suffix == u'%' || suffix == u'^') end = SkipNumberSuffix(end);
+        Add(base == u'h' ? TokenKind::Hexadecimal : TokenKind::Octal, end - at_);
+    }
+
+    bool EndsOperand() const {
+        switch (previous_.kind) {
+            case TokenKind::Name:
+            case TokenKind::Integer:
+            case TokenKind::Hexadecimal:
+            case TokenKind::Octal:
+            case TokenKind::Float:
+            case TokenKind::Date:
+            case TokenKind::String:
+                return true;
+            case TokenKind::Operator:
+                return previous_.Is(Operator::CloseParenthesis);
+            default:
+                return false;
+        }
+    }
+
+    void ScanDot() {
+        const bool behindOperand = EndsOperand() && previous_.End() == at_;
+        if (!behindOperand && HasTraitAt(at_ + 1, kDigit)) return ScanNumber();
+        AddOperator(Operator::Dot, 1);
+    }
+
+    void ScanOperator(char16_t c) {
+        switch (c) {
+            case u'+':
+                return AddOperator(Operator::Plus, 1);
+            case u'-':
+                return AddOperator(Operator::Minus, 1);
+            case u'*':
+                return AddOperator(Operator::Times, 1);
+            case u'/':
+                return AddOperator(Operator::Divide, 1);
+            case u'\\':
+                return AddOperator(Operator::IntegerDivide, 1);
+            case u'^':
+                return AddOperator(Operator::Power, 1);
+            case u',':
+                return AddOperator(Operator::Comma, 1);
+            case u';':
+                return AddOperator(Operator::Semicolon, 1);
+            case u'!':
+                return AddOperator(Operator::Bang, 1);
+            case u'(':
+                return AddOperator(Operator::OpenParenthesis, 1);
+            case u')':
+                return AddOperator(Operator::CloseParenthesis, 1);
+            case u'?':
+                return AddOperator(Operator::Question, 1);
+            case u':':
+            case u'=':
+            case u'<':
+            case u'>':
+                return ScanPair(c);
+            default:
+                return Add(TokenKind::Unknown, 1);
+        }
+    }
+
+    // The operators of two characters, which blanks may part.
+    void ScanPair(char16_t first) {
+        const std::size_t place = SkipBlanks(at_ + 1);
+        const char16_t second = CharacterAt(place);
+        const Operator pair = PairOf(first, second);
+        if (pair != Operator::None) return AddOperator(pair, place + 1 - at_);
+        const Operator single = first == u':'   ? Operator::Colon
+                                : first == u'=' ? Operator::Equal
+                                : first == u'<' ? Operator::Less
+                                                : Operator::Greater;
+        AddOperator(single, 1);
+    }
+
+    static Operator PairOf(char16_t first, char16_t second) {
+        if (first == u':') return second == u'=' ? Operator::Assign : Operator::None;
+        if ((first == u'<' && second == u'>') || (first == u'>' && second == u'<')) return Operator::NotEqual;
+        if ((first == u'<' && second == u'=') || (first == u'=' && second == u'<')) return Operator::LessEqual;
+        if ((first == u'>' && second == u'=') || (first == u'=' && second == u'>')) return Operator::GreaterEqual;
+        return Operator::None;
+    }
+
+    TextView text_;
+    Tokens& tokens_;
+    std::size_t at_ = 0;
+    Token previous_;  // The last token that is no continuation; at the start an `EndOfText` of length 0.
+};
+
+}  // namespace
+
+void Tokenize(TextView text, Tokens& tokens) {
+    tokens.clear();
+    tokens.reserve(text.size() / 4 + 8);
+    Scanner(text, tokens).Run();
+}
+
+Tokens Tokenize(TextView text) {
+    Tokens tokens;
+    Tokenize(text, tokens);
+    return tokens;
+}
+
+}  // namespace zentlor::vba
