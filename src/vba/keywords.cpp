@@ -11,17 +11,16 @@
 namespace zentlor::vba {
 namespace {
 
+enum class WordClass : std::uint8_t { Reserved, BuiltIn, Contextual };
+
 struct Row {
     TextView spelling;
-    bool isReserved;
+    WordClass wordClass;
 };
 
-constexpr bool Reserved = true;
-constexpr bool Contextual = false;
-
 constexpr Row kRows[] = {
-    {u"", Contextual},
-#define KEYWORD(word, reservation) {u## #word, reservation},
+    {u"", WordClass::Contextual},
+#define KEYWORD(word, wordClass) {u## #word, WordClass::wordClass},
 #include "vba/keywords.def"
 #undef KEYWORD
 };
@@ -73,7 +72,11 @@ TextView Spelling(Keyword keyword) {
 }
 
 bool IsReserved(Keyword keyword) {
-    return kRows[static_cast<std::size_t>(keyword)].isReserved;
+    return kRows[static_cast<std::size_t>(keyword)].wordClass == WordClass::Reserved;
+}
+
+bool IsContextual(Keyword keyword) {
+    return keyword != Keyword::None && kRows[static_cast<std::size_t>(keyword)].wordClass == WordClass::Contextual;
 }
 
 }  // namespace zentlor::vba

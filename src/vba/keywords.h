@@ -12,7 +12,7 @@ namespace zentlor::vba {
 
 enum class Keyword : std::uint16_t {
     None,
-#define KEYWORD(word, reservation) word,
+#define KEYWORD(word, wordClass) word,
 #include "vba/keywords.def"
 #undef KEYWORD
 };
@@ -23,7 +23,10 @@ Keyword FindKeyword(TextView word);
 /// The keyword as the editor writes it; empty for `None`.
 TextView Spelling(Keyword keyword);
 
-/// True for words that can't be declared as a name: `Dim`, `And`, `True`; False for `Name`, `Date`, `Len`, `Me`.
+/// True for words that never stand where a name may stand: `Dim`, `And`, `True`; False for `Name`, `Date`, `Len`, `Me`.
 bool IsReserved(Keyword keyword);
+
+/// True for words that a project may declare as a name of its own: `Name`, `Line`, `Text`; False for `Date` and `Dim`.
+bool IsContextual(Keyword keyword);
 
 }  // namespace zentlor::vba

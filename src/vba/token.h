@@ -76,7 +76,8 @@ struct Token {
 
     Keyword keyword() const { return kind == TokenKind::Operator ? Keyword::None : static_cast<Keyword>(id); }
     Operator op() const { return kind == TokenKind::Operator ? static_cast<Operator>(id) : Operator::None; }
-    bool Is(Keyword word) const { return keyword() == word && (flags & kMember) == 0; }
+    /// True for that word, unless it is a member; a directive is no such word.
+    bool Is(Keyword word) const { return IsWord() && keyword() == word && !Has(kMember); }
     bool Is(Operator which) const { return op() == which; }
     bool Is(TokenKind which) const { return kind == which; }
     bool Has(TokenFlag flag) const { return (flags & flag) != 0; }
