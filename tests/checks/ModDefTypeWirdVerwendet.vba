@@ -1,0 +1,35 @@
+'= Modul Zeichensatz
+Option Explicit
+DefBool B '! Deklarationen "(DefBool)"
+DefByte Y '! Deklarationen "(DefByte)"
+DefInt I-N '! Deklarationen "(DefInt)"
+DefLng L, Z '! Deklarationen "(DefLng)"
+DefCur C '! Deklarationen "(DefCur)"
+DefSng F: DefDbl D '! Deklarationen "(DefSng)" '! Deklarationen "(DefDbl)"
+DefDate T '! Deklarationen "(DefDate)"
+DefStr S ' DefObj O '! Deklarationen "(DefStr)"
+DefObj O: DefVar V: Rem DefBool B '! Deklarationen "(DefObj)" '! Deklarationen "(DefVar)"
+' DefInt A-Z
+Rem DefInt A-Z
+' Fortgesetzt: _
+DefInt A-Z
+Private Defekt As Long, Undefiniert As String
+'= Modul Fortgesetzt
+Option Explicit: DefStr _ '! Deklarationen "(DefStr)"
+    S, _
+    T
+DefLng _ '! Deklarationen "(DefLng)"
+    A-Z
+Private Const cText = "x: DefInt A-Z"
+Public Sub Rechnen()
+    ' DefInt A-Z
+    Debug.Print "DefInt A-Z"
+End Sub
+'= Modul Ähnlich
+Private mDefInt As Long, DefIntX As Long
+Private Enum Richtung
+    DefLngWert
+End Enum
+'= Klasse OhneKopf
+Public Sub Nichts()
+End Sub
