@@ -23,13 +23,15 @@ TextView Trim(TextView text);
 int InStr(int start, TextView text, TextView needle);
 int InStr(int start, TextView text, char16_t needle);
 
-/// The `length` characters of `text` from column `start` on, fewer where the text ends; empty for `start` behind the end.
-/// Columns in front of the text hold nothing: a `start` below 1 gives the empty text.
+/// The `length` characters of `text` from column `start` on, fewer where the text ends; empty for `start` behind the
+/// end. Columns in front of the text hold nothing: a `start` below 1 gives the empty text.
 TextView Mid(TextView text, int start, int length);
 TextView Mid(TextView text, int start);
 
 /// The number of characters, in the signed form in which columns are kept.
-inline int Len(TextView text) { return static_cast<int>(text.size()); }
+inline int Len(TextView text) {
+    return static_cast<int>(text.size());
+}
 
 /// `number` in decimal, without blanks.
 Text ToText(long long number);

@@ -1,0 +1,224 @@
+#include "core/analysis/procedure_extents.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+namespace zentlor {
+
+namespace {
+
+bool IsSpace(char16_t c) {
+    return c == u' ' || c == u'\t';
+}
+
+// Takes words off the front of a statement.
+class StatementReader {
+  public:
+    explicit StatementReader(TextView statement) : rest_(statement) { SkipSpace(); }
+
+    TextView PeekWord() const {
+        std::size_t length = 0;
+        while (length < rest_.size() && IsWordCharacter(rest_[length])) ++length;
+        return rest_.substr(0, length);
+    }
+
+    bool Take(TextView keyword) {
+        const TextView word = PeekWord();
+        if (!EqualIgnoringCase(word, keyword)) return false;
+        Skip(word.size());
+        return true;
+    }
+
+    TextView TakeName() {
+        if (rest_.starts_with(u'[')) return rest_.substr(1, std::min(rest_.find(u']'), rest_.size()) - 1);
+        return PeekWord();
+    }
+
+    void SkipLineNumber() {
+        const TextView word = PeekWord();
+        if (!word.empty() && word.find_first_not_of(u"0123456789") == TextView::npos) Skip(word.size());
+    }
+
+  private:
+    void Skip(std::size_t length) {
+        rest_.remove_prefix(length);
+        SkipSpace();
+    }
+    void SkipSpace() {
+        while (!rest_.empty() && IsSpace(rest_.front())) rest_.remove_prefix(1);
+    }
+
+    TextView rest_;
+};
+
+struct Header {
+    TextView name;
+    int kind = 0;
+};
+
+bool ReadHeader(TextView statement, Header& header) {
+    StatementReader reader(statement);
+    while (reader.Take(u"Public") || reader.Take(u"Private") || reader.Take(u"Friend") || reader.Take(u"Static") ||
+           reader.Take(u"Global")) {
+    }
+    if (reader.Take(u"Sub") || reader.Take(u"Function")) {
+        header.kind = vbext_pk_Proc;
+    } else if (!reader.Take(u"Property")) {
+        return false;
+    } else if (reader.Take(u"Get")) {
+        header.kind = vbext_pk_Get;
+    } else if (reader.Take(u"Let")) {
+        header.kind = vbext_pk_Let;
+    } else if (reader.Take(u"Set")) {
+        header.kind = vbext_pk_Set;
+    } else {
+        return false;
+    }
+    header.name = reader.TakeName();
+    return !header.name.empty();
+}
+
+bool IsProcedureEnd(TextView statement) {
+    StatementReader reader(statement);
+    reader.SkipLineNumber();
+    return reader.Take(u"End") && (reader.Take(u"Sub") || reader.Take(u"Function") || reader.Take(u"Property"));
+}
+
+bool IsBlankLine(TextView line) {
+    return std::all_of(line.begin(), line.end(), IsSpace);
+}
+
+bool IsCommentLine(TextView line) {
+    const auto first = line.find_first_not_of(u" \t");
+    return first != TextView::npos && (line[first] == u'\'' || StatementReader(line).Take(u"Rem"));
+}
+
+// The first letters that a header, an end of a procedure or a line number can have; most lines of a program are told
+// apart by them alone.
+bool MayBoundProcedure(TextView line) {
+    const auto first = line.find_first_not_of(u" \t");
+    if (first == TextView::npos) return false;
+    const char16_t c = FoldCase(line[first]);
+    return c == u'e' || c == u'f' || c == u'g' || c == u'p' || c == u's' || (c >= u'0' && c <= u'9');
+}
+
+// Walks the statements of one physical line; colons in strings separate nothing, and a comment ends the line.
+template <class Visit>
+void ForEachStatement(TextView line, Visit visit) {
+    std::size_t begin = 0;
+    bool quoted = false;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line[i] == u'"') quoted = !quoted;
+        if (quoted || (line[i] != u':' && line[i] != u'\'')) continue;
+        visit(line.substr(begin, i - begin));
+        if (line[i] == u'\'') return;
+        begin = i + 1;
+    }
+    visit(line.substr(begin));
+}
+
+// The state of the walk over a module's lines, and its result.
+class ExtentFinder {
+  public:
+    ExtentFinder(TextView text, const std::vector<std::uint32_t>& lineStarts) : text_(text), lineStarts_(lineStarts) {}
+
+    ModuleExtents Run() {
+        const int lines = static_cast<int>(lineStarts_.size()) - 1;
+        bool continued = false;
+        bool comment = false;
+        for (int number = 1; number <= lines; ++number) {
+            const TextView line = Line(number);
+            if (!continued) comment = IsCommentLine(line);
+            if (!comment) VisitLine(number, line, continued);
+            continued = IsContinuedLine(line);
+        }
+        Finish(lines);
+        return std::move(result_);
+    }
+
+  private:
+    TextView Line(int number) const {
+        const auto index = static_cast<std::size_t>(number - 1);
+        return text_.substr(lineStarts_[index], lineStarts_[index + 1] - lineStarts_[index] - 1);
+    }
+
+    void VisitLine(int number, TextView line, bool continued) {
+        ReadStatements(number, line, continued);
+        const bool declares = continued || !IsBlankLine(line);
+        if (result_.procedures.empty() && declares) result_.declarationLines = number;
+    }
+
+    void ReadStatements(int number, TextView line, bool continued) {
+        const bool severalStatements = open_ && line.find(u':') != TextView::npos;
+        if (!severalStatements && (continued || !MayBoundProcedure(line))) return;
+        bool first = !continued;
+        ForEachStatement(line, [&](TextView statement) {
+            VisitStatement(number, statement, first);
+            first = false;
+        });
+    }
+
+    void VisitStatement(int number, TextView statement, bool startsLine) {
+        if (open_) {
+            if (!IsProcedureEnd(statement)) return;
+            result_.procedures.back().lastLine = number;
+            open_ = false;
+            return;
+        }
+        Header header;
+        if (!startsLine || !ReadHeader(statement, header)) return;
+        result_.procedures.push_back({header.name, header.kind, 0, number, number});
+        open_ = true;
+    }
+
+    void Finish(int lines) {
+        auto& procedures = result_.procedures;
+        if (procedures.empty()) result_.declarationLines = lines;
+        int next = result_.declarationLines + 1;
+        for (std::size_t i = 0; i < procedures.size(); ++i) {
+            procedures[i].firstLine = next;
+            const bool last = i + 1 == procedures.size();
+            if (last) procedures[i].lastLine = lines;
+            next = procedures[i].lastLine + 1;
+        }
+        NumberDuplicates();
+    }
+
+    // Gives every further procedure of one name and kind a kind of its own.
+    void NumberDuplicates() {
+        auto& procedures = result_.procedures;
+        std::vector<std::size_t> order(procedures.size());
+        std::iota(order.begin(), order.end(), std::size_t{0});
+        std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+            return procedures[a].kind != procedures[b].kind ? procedures[a].kind < procedures[b].kind
+                                                            : procedures[a].name < procedures[b].name;
+        });
+        int repetition = 0;
+        for (std::size_t i = 1; i < order.size(); ++i) {
+            Procedure& procedure = procedures[order[i]];
+            const Procedure& before = procedures[order[i - 1]];
+            const bool same = procedure.name == before.name && procedure.kind == before.kind % kProcedureKinds;
+            repetition = same ? repetition + 1 : 0;
+            procedure.kind += repetition * kProcedureKinds;
+        }
+    }
+
+    TextView text_;
+    const std::vector<std::uint32_t>& lineStarts_;
+    ModuleExtents result_;
+    bool open_ = false;
+};
+
+}  // namespace
+
+bool IsContinuedLine(TextView line) {
+    const auto last = line.find_last_not_of(u" \t");
+    return last != TextView::npos && last > 0 && line[last] == u'_' && IsSpace(line[last - 1]);
+}
+
+ModuleExtents FindExtents(TextView text, const std::vector<std::uint32_t>& lineStarts) {
+    return ExtentFinder(text, lineStarts).Run();
+}
+
+}  // namespace zentlor

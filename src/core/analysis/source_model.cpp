@@ -1,0 +1,206 @@
+#include "core/analysis/source_model.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace zentlor {
+
+namespace {
+
+constexpr std::size_t kNotFound = TextView::npos;
+
+std::vector<std::uint32_t> FindLineStarts(TextView text) {
+    std::vector<std::uint32_t> starts{0};
+    for (auto end = text.find(u'\n'); end != TextView::npos; end = text.find(u'\n', end + 1)) {
+        starts.push_back(static_cast<std::uint32_t>(end) + 1);
+    }
+    return starts;
+}
+
+bool HasCase(TextView target) {
+    return std::any_of(target.begin(), target.end(), [](char16_t c) { return IsWordCharacter(c); });
+}
+
+}  // namespace
+
+TextView LeadingWord(TextView target) {
+    const auto end = std::find_if_not(target.begin(), target.end(), IsIndexCharacter);
+    return target.substr(0, static_cast<std::size_t>(end - target.begin()));
+}
+
+CodeModule::CodeModule(const VBComponent& component, Text code) : component_(component), text_(std::move(code)) {
+    if (!text_.empty() && text_.back() != u'\n') text_.push_back(u'\n');
+    lineStarts_ = FindLineStarts(text_);
+    extents_ = FindExtents(text_, lineStarts_);
+    byName_.resize(extents_.procedures.size());
+    std::iota(byName_.begin(), byName_.end(), 0U);
+    std::sort(byName_.begin(), byName_.end(), [&](std::uint32_t a, std::uint32_t b) {
+        const Procedure& x = extents_.procedures[a];
+        const Procedure& y = extents_.procedures[b];
+        return x.kind != y.kind ? x.kind < y.kind : x.name < y.name;
+    });
+}
+
+TextView CodeModule::Lines(int line) const {
+    if (line < 1 || line > CountOfLines()) throw SubscriptOutOfRange();
+    const std::uint32_t begin = OffsetOfLine(line);
+    return TextView(text_).substr(begin, OffsetOfLine(line + 1) - begin - 1);
+}
+
+int CodeModule::LineOfOffset(std::uint32_t offset) const {
+    const auto behind = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), offset);
+    return static_cast<int>(behind - lineStarts_.begin());
+}
+
+TextView CodeModule::ProcOfLine(int line, int& kind) const {
+    if (line < 1 || line > CountOfLines()) throw SubscriptOutOfRange();
+    kind = 0;
+    if (line <= CountOfDeclarationLines()) return {};
+    const auto& procedures = extents_.procedures;
+    const auto procedure = std::lower_bound(procedures.begin(), procedures.end(), line,
+                                            [](const Procedure& p, int l) { return p.lastLine < l; });
+    kind = procedure->kind;
+    return procedure->name;
+}
+
+TextView CodeModule::ProcOfLine(int line) const {
+    int kind = 0;
+    return ProcOfLine(line, kind);
+}
+
+const Procedure& CodeModule::ProcedureNamed(TextView name, int kind) const {
+    const auto& procedures = extents_.procedures;
+    const auto place = std::lower_bound(byName_.begin(), byName_.end(), name, [&](std::uint32_t i, TextView wanted) {
+        return procedures[i].kind != kind ? procedures[i].kind < kind : procedures[i].name < wanted;
+    });
+    if (place == byName_.end() || procedures[*place].name != name || procedures[*place].kind != kind) {
+        throw SubscriptOutOfRange();
+    }
+    return procedures[*place];
+}
+
+int CodeModule::ProcCountLines(TextView name, int kind) const {
+    const Procedure& procedure = ProcedureNamed(name, kind);
+    return procedure.lastLine - procedure.firstLine + 1;
+}
+
+int CodeModule::ProcBodyLine(TextView name, int kind) const {
+    return ProcedureNamed(name, kind).bodyLine;
+}
+
+bool CodeModule::ToBounds(const FindRange& range, Bounds& bounds) const {
+    const int last = CountOfLines();
+    const int startLine = std::max(range.startLine, 1);
+    const int endLine = range.endLine < 0 ? last : std::min(range.endLine, last);
+    if (startLine > endLine) return false;
+    const auto column = static_cast<std::uint32_t>(std::max(range.startColumn, 1) - 1);
+    const std::uint32_t startLineEnd = OffsetOfLine(startLine + 1) - 1;
+    bounds.from = std::min(OffsetOfLine(startLine) + column, startLineEnd);
+    bounds.to = OffsetOfLine(endLine + 1) - 1;
+    const bool endColumnCounts = range.endColumn > 0 && range.endLine <= last;
+    if (endColumnCounts) {
+        bounds.to = std::min(bounds.to, OffsetOfLine(endLine) + static_cast<std::uint32_t>(range.endColumn));
+    }
+    return bounds.from <= bounds.to;
+}
+
+bool CodeModule::StandsFree(std::size_t offset, std::size_t length, bool (*continuesWord)(char16_t)) const {
+    const bool free = offset == 0 || !continuesWord(text_[offset - 1]);
+    return free && !continuesWord(text_[offset + length]);
+}
+
+std::size_t CodeModule::SearchText(TextView target, Bounds bounds, FindFlags flags) const {
+    const TextView text(text_);
+    const bool exact = flags.matchCase || !HasCase(target);
+    for (std::size_t i = bounds.from; i + target.size() <= bounds.to; ++i) {
+        if (exact) {
+            i = text.find(target, i);
+            if (i == kNotFound || i + target.size() > bounds.to) return kNotFound;
+        } else if (!EqualIgnoringCase(text.substr(i, target.size()), target)) {
+            continue;
+        }
+        if (!flags.wholeWord || StandsFree(i, target.size(), IsWordCharacter)) return i;
+    }
+    return kNotFound;
+}
+
+// A target that begins with a word of the index is looked for where that word stands; any other one in the whole text.
+std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*continuesWord)(char16_t)) const {
+    const TextView text(text_);
+    const TextView anchor = LeadingWord(target);
+    if (anchor.empty()) {
+        for (std::size_t i = text.find(target, bounds.from); i != kNotFound; i = text.find(target, i + 1)) {
+            if (i + target.size() > bounds.to) return kNotFound;
+            if (StandsFree(i, target.size(), continuesWord)) return i;
+        }
+        return kNotFound;
+    }
+    const WordIndex& words = component_.Project().Words();
+    for (const Place place : words.PlacesOf(anchor, component_.Index(), bounds.from)) {
+        const std::size_t offset = place.Offset();
+        if (offset + target.size() > bounds.to) return kNotFound;
+        const bool equal = anchor.size() == target.size() || text.substr(offset, target.size()) == target;
+        if (equal && StandsFree(offset, target.size(), continuesWord)) return offset;
+    }
+    return kNotFound;
+}
+
+bool CodeModule::Deliver(std::size_t offset, std::size_t length, FindRange& range) const {
+    if (offset == kNotFound) return false;
+    range.startLine = LineOfOffset(static_cast<std::uint32_t>(offset));
+    range.startColumn = static_cast<int>(offset - OffsetOfLine(range.startLine)) + 1;
+    range.endLine = range.startLine;
+    range.endColumn = range.startColumn + static_cast<int>(length) - 1;
+    return true;
+}
+
+bool CodeModule::Find(TextView target, FindRange& range, FindFlags flags) const {
+    if (flags.wholeWord && flags.matchCase) return FindWord(target, range, IsWordCharacter);
+    return FindByWalk(target, range, flags);
+}
+
+bool CodeModule::FindWord(TextView target, FindRange& range, bool (*continuesWord)(char16_t)) const {
+    Bounds bounds;
+    if (target.empty() || !ToBounds(range, bounds)) return false;
+    return Deliver(SearchWord(target, bounds, continuesWord), target.size(), range);
+}
+
+bool CodeModule::FindByWalk(TextView target, FindRange& range, FindFlags flags) const {
+    Bounds bounds;
+    if (target.empty() || !ToBounds(range, bounds)) return false;
+    return Deliver(SearchText(target, bounds, flags), target.size(), range);
+}
+
+VBComponent::VBComponent(const VBProject& project, std::uint32_t index, Text name, int type, Text code)
+    : project_(project), index_(index), name_(std::move(name)), type_(type), code_(*this, std::move(code)) {}
+
+VBComponent& VBProject::Add(Text name, int type, Text code) {
+    words_.reset();
+    const auto index = static_cast<std::uint32_t>(components_.size());
+    components_.push_back(std::make_unique<VBComponent>(*this, index, std::move(name), type, std::move(code)));
+    return *components_.back();
+}
+
+const VBComponent& VBProject::Item(TextView name) const {
+    const auto found =
+        std::find_if(components_.begin(), components_.end(), [&](const auto& c) { return c->Name() == name; });
+    if (found == components_.end()) throw SubscriptOutOfRange();
+    return **found;
+}
+
+const WordIndex& VBProject::Words() const {
+    if (!words_) {
+        std::vector<TextView> texts;
+        texts.reserve(components_.size());
+        for (const auto& component : components_) texts.push_back(component->CodeModule().AllText());
+        words_ = std::make_unique<WordIndex>(texts);
+    }
+    return *words_;
+}
+
+FailureReporter& VBProject::Failures() const {
+    if (failures_ == nullptr) throw ObjectNotSet();
+    return *failures_;
+}
+
+}  // namespace zentlor

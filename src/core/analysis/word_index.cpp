@@ -1,0 +1,131 @@
+#include "core/analysis/word_index.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zentlor {
+
+namespace {
+
+constexpr std::array<bool, 256> MakeIndexCharacters() {
+    std::array<bool, 256> table{};
+    for (int c = u'0'; c <= u'9'; ++c) table[static_cast<std::size_t>(c)] = true;
+    for (int c = u'A'; c <= u'Z'; ++c)
+        table[static_cast<std::size_t>(c)] = table[static_cast<std::size_t>(c + 32)] = true;
+    for (const char16_t c : TextView(u"_ßäÄöÖüÜ")) table[c] = true;
+    return table;
+}
+constexpr std::array<bool, 256> kIndexCharacters = MakeIndexCharacters();
+
+std::uint32_t NextHash(std::uint32_t hash, char16_t c) {
+    return (hash ^ c) * 16777619U;
+}
+constexpr std::uint32_t kHashSeed = 2166136261U;
+
+// The upper half mixes best in this hash; the slot is taken from the lower one.
+std::uint32_t Finish(std::uint32_t hash) {
+    return hash ^ hash >> 15;
+}
+
+std::uint32_t HashOf(TextView word) {
+    std::uint32_t hash = kHashSeed;
+    for (const char16_t c : word) hash = NextHash(hash, c);
+    return Finish(hash);
+}
+
+constexpr std::uint32_t kNoWord = 0xFFFFFFFF;
+
+}  // namespace
+
+bool IsIndexCharacter(char16_t c) {
+    return c < 256 && kIndexCharacters[c];
+}
+
+WordIndex::WordIndex(const std::vector<TextView>& texts) : slots_(1024, Slot{{}, kNoWord}) {
+    struct Occurrence {
+        std::uint32_t id;
+        std::uint32_t offset;
+    };
+    std::vector<Occurrence> occurrences;
+    std::vector<std::size_t> moduleEnds;
+    std::size_t characters = 0;
+    for (const TextView text : texts) characters += text.size();
+    occurrences.reserve(characters / 6);
+    for (const TextView text : texts) {
+        const std::size_t size = text.size();
+        for (std::size_t i = 0; i < size;) {
+            if (!IsIndexCharacter(text[i])) {
+                ++i;
+                continue;
+            }
+            const std::size_t begin = i;
+            std::uint32_t hash = kHashSeed;
+            for (; i < size && IsIndexCharacter(text[i]); ++i) hash = NextHash(hash, text[i]);
+            const TextView word = text.substr(begin, i - begin);
+            Slot& slot = SlotOf(word, Finish(hash));
+            occurrences.push_back({slot.id, static_cast<std::uint32_t>(begin)});
+        }
+        moduleEnds.push_back(occurrences.size());
+    }
+
+    // Counting sort by word: stable, so the places of each word come out in order.
+    starts_.assign(words_ + 1, 0);
+    for (const Occurrence& o : occurrences) ++starts_[o.id + 1];
+    for (std::size_t id = 0; id < words_; ++id) starts_[id + 1] += starts_[id];
+    std::vector<std::uint32_t> next(starts_.begin(), starts_.end() - 1);
+    places_.resize(occurrences.size());
+    std::size_t k = 0;
+    for (std::size_t module = 0; module < moduleEnds.size(); ++module) {
+        for (; k < moduleEnds[module]; ++k) {
+            const Occurrence& o = occurrences[k];
+            places_[next[o.id]++] = Place::Of(static_cast<std::uint32_t>(module), o.offset);
+        }
+    }
+}
+
+WordIndex::Slot& WordIndex::SlotOf(TextView word, std::uint32_t hash) {
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
+        Slot& slot = slots_[i];
+        if (slot.id == kNoWord) {
+            if (2 * (words_ + 1) > slots_.size()) {
+                Grow();
+                return SlotOf(word, hash);
+            }
+            slot = {word, words_++};
+            return slot;
+        }
+        if (slot.word == word) return slot;
+    }
+}
+
+void WordIndex::Grow() {
+    std::vector<Slot> old(2 * slots_.size(), Slot{{}, kNoWord});
+    old.swap(slots_);
+    const std::size_t mask = slots_.size() - 1;
+    for (const Slot& slot : old) {
+        if (slot.id == kNoWord) continue;
+        std::size_t i = HashOf(slot.word) & mask;
+        while (slots_[i].id != kNoWord) i = (i + 1) & mask;
+        slots_[i] = slot;
+    }
+}
+
+std::span<const Place> WordIndex::PlacesOf(TextView word) const {
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t i = HashOf(word) & mask; slots_[i].id != kNoWord; i = (i + 1) & mask) {
+        if (slots_[i].word != word) continue;
+        const std::uint32_t id = slots_[i].id;
+        return std::span(places_).subspan(starts_[id], starts_[id + 1] - starts_[id]);
+    }
+    return {};
+}
+
+std::span<const Place> WordIndex::PlacesOf(TextView word, std::uint32_t module, std::uint32_t fromOffset) const {
+    const std::span<const Place> all = PlacesOf(word);
+    const auto first = std::lower_bound(all.begin(), all.end(), Place::Of(module, fromOffset));
+    const auto last = std::lower_bound(first, all.end(), Place::Of(module + 1, 0));
+    return {first, last};
+}
+
+}  // namespace zentlor

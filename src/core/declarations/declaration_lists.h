@@ -1,0 +1,65 @@
+#pragma once
+
+// The turns by which both tables cut names out of a declaration list: column arithmetic on one statement, the same for
+// a module's declarations and for a procedure's.
+
+#include "core/scanning/comments_and_strings.h"
+#include "core/utilities/text.h"
+
+namespace zentlor {
+
+/// What a turn finds out about one name.
+struct DeclaredName {
+    Text strName;
+    bool blnDatentyp = false;
+    bool blnKennzeichen = false;
+};
+
+/// First occurrences of a character, for columns that only grow: each part of the text is searched once.
+class NextColumn {
+  public:
+    NextColumn(TextView text, char16_t wanted) : text_(text), wanted_(wanted) {}
+    /// Column of the first one at or behind `column`, or 0. `column` is not below that of an earlier question.
+    int From(int column);
+
+  private:
+    TextView text_;
+    char16_t wanted_;
+    int found_ = -1;
+};
+
+/// The names of "a, b As Long, c(5) As String" from column `lngPos` of a statement on. Next() gives one name after the
+/// other until there is none left.
+class VariableList {
+  public:
+    VariableList(TextView statement, int lngPos);
+    bool Next(DeclaredName& name);
+
+  private:
+    TextView statement_;
+    NextColumn blanks_;
+    NextColumn commas_;
+    NextColumn opening_;
+    NextColumn closing_;
+    int lngPos_;
+    bool more_ = true;
+};
+
+/// The names of "A = 1, B As String = "x, y"". Commas in quotation marks separate nothing.
+class ConstantList {
+  public:
+    ConstantList(TextView statement, int lngPos);
+    bool Next(DeclaredName& name);
+
+  private:
+    int NextComma();
+
+    TextView statement_;
+    NextColumn blanks_;
+    NextColumn commas_;
+    QuoteCounter quotes_;
+    int lngPos_;
+    bool more_ = true;
+};
+
+}  // namespace zentlor

@@ -1,0 +1,69 @@
+#pragma once
+
+// The result list: where a hint ends up. Its rows are the only store of hints; jump, sort and export read them back.
+
+#include <cstddef>
+#include <vector>
+
+#include "core/checks/catalogue.h"
+#include "core/utilities/text.h"
+
+namespace zentlor {
+
+/// What a check hands over, and what a row shows. The text is finished, in the language of its moment.
+struct Hint {
+    Text strNameVBC;
+    Text strProzedur;
+    Text strHinweis;
+    int lngZeile = 0;  ///< 0: the hint belongs to no line
+    CheckId check{};
+};
+
+/// Sort keys as the list's columns have them: 0 module, 1 procedure, 2 hint, 3 the line as plain text (no header leads
+/// to it), 4 the line as a sort text.
+inline constexpr int kSortModule = 0;
+inline constexpr int kSortLine = 4;
+/// Headers that a click can reach, counted from 1.
+inline constexpr int kVisibleColumns = 4;
+
+class ResultList {
+  public:
+    /// Puts a hint behind all others in order of emission; the sort decides its place among the rows.
+    void Add(Hint hint);
+    void Clear();
+
+    std::size_t Count() const { return hints_.size(); }
+    /// Hints in order of emission.
+    const std::vector<Hint>& Emitted() const { return hints_; }
+    /// The hint in row `row` of the list, counted from 0. The rows are put in order when they are asked for.
+    const Hint& Row(std::size_t row) const { return hints_[Order()[row]]; }
+    /// For each row the number of its hint in order of emission.
+    const std::vector<std::size_t>& Order() const;
+
+    int SortKey() const { return sortKey_; }
+    bool Ascending() const { return ascending_; }
+    /// A click on the header of `column` (1 to kVisibleColumns): sorts by it ascending, or reverses the order if the
+    /// list is sorted by it already. "Zeile" sorts by the hidden sort text.
+    void lvwErgebnis_ColumnClick(int column);
+
+  private:
+    void Sort(std::size_t sorted) const;
+    bool InFront(std::size_t a, std::size_t b) const;
+
+    std::vector<Hint> hints_;
+    int sortKey_ = kSortModule;
+    bool ascending_ = true;
+    mutable std::vector<std::size_t> order_;
+};
+
+/// The text of column `column` (1 to 5) of a row; the fifth is the hidden sort text.
+Text CellText(const Hint& hint, int column);
+
+/// The last five characters of five blanks followed by the line number, so that text order is numeric order.
+Text SortText(int lngZeile);
+
+/// Order of two cells: letters without regard to case, accented letters beside their plain form (ä as a, ß as ss), as a
+/// German dictionary has it. Negative, 0 or positive. Texts that differ in nothing else are equal.
+int CompareCells(TextView a, TextView b);
+
+}  // namespace zentlor
