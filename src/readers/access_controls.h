@@ -1,0 +1,22 @@
+#pragma once
+
+// The forms and reports of an Access database with the names and types of their controls, as the database keeps them
+// beside its VBA project. The format is not published; what is read here was found by looking.
+
+#include <string_view>
+#include <vector>
+
+#include "readers/container.h"
+#include "readers/document.h"
+
+namespace zentlor::readers {
+
+/// All forms, then all reports, in the order of their directories. `root` is the storage that holds `Forms`, `Reports`
+/// and `VBA`; `codePage` is that of the names of controls.
+std::vector<FormLayout> ReadFormLayouts(const Storage& root, int codePage);
+
+/// The controls that the stream `TypeInfo` of a form or report lists, without its sections and the fields of its record
+/// source. A list that ends early gives what is there.
+std::vector<FormControl> ParseTypeInfo(std::string_view bytes, int codePage);
+
+}  // namespace zentlor::readers
