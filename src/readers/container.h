@@ -38,26 +38,29 @@ class Storage {
 /// The eight bytes that every compound file begins with.
 bool HasCompoundSignature(std::string_view bytes);
 
-/// The root storage of the compound file `bytes`, or null if its header or directory cannot be read.
+/// The root storage of the compound file `bytes`, or null if its header or directory cannot be read. `truncated`, if
+/// given, becomes true where the file's own table speaks of sectors behind its end.
 /// Throws `ReadError` with `Limit` where the directory is larger than any real document needs.
-std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path);
+std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, bool* truncated = nullptr);
 
 /// The storage that `names` leads to from `root`, or null.
 std::unique_ptr<Storage> OpenPath(const Storage& root, const std::vector<Text>& names);
 
-/// A part of a zip: its name, and its sizes as the zip's directory claims them.
+/// A part of a zip: its full name ("xl/vbaProject.bin"), and its sizes as the zip's directory claims them.
 struct ZipPart {
     std::string name;
+    std::uint64_t packedBytes = 0;
     std::uint64_t unpackedBytes = 0;
 };
 
 class ZipArchive {
   public:
     virtual ~ZipArchive() = default;
-    /// All parts, folders not counted, with their full names ("xl/vbaProject.bin").
+    /// All parts, folders not counted.
     virtual const std::vector<ZipPart>& Parts() const = 0;
-    /// The first `maximum` unpacked bytes of part number `index`, fewer where the part ends or is damaged.
-    virtual std::string Read(std::size_t index, std::uint64_t maximum) const = 0;
+    /// The first `maximum` unpacked bytes of part number `index`, fewer where the part ends or is damaged; `damaged`,
+    /// if given, is then set, and else left alone.
+    virtual std::string Read(std::size_t index, std::uint64_t maximum, bool* damaged = nullptr) const = 0;
 };
 
 /// The four bytes that a zip begins with.

@@ -87,7 +87,8 @@ enum class ReadFailure {
 /// The one error that readers throw. `what()` is the English sentence.
 class ReadError : public std::runtime_error {
   public:
-    ReadError(ReadFailure why, Sentence text) : std::runtime_error(text.english), failure(why), sentence(std::move(text)) {}
+    ReadError(ReadFailure why, Sentence text)
+        : std::runtime_error(text.english), failure(why), sentence(std::move(text)) {}
     ReadFailure failure;
     Sentence sentence;
 };
@@ -95,13 +96,14 @@ class ReadError : public std::runtime_error {
 /// Bounds on what a reader takes in, so that a hostile file costs neither memory nor time without end. A bound that is
 /// hit is reported (ReadFailure::Limit or a problem of the document) and never passed over in silence.
 struct Limits {
-    std::uint64_t fileBytes = 2048ull << 20;      ///< size of a file
-    std::uint64_t zipPartBytes = 256ull << 20;    ///< unpacked size of one part of a zip
-    std::uint32_t zipParts = 1000;                ///< parts of a zip
-    std::uint32_t zipRatio = 200;                 ///< unpacked to packed size, behind the first MiB
-    std::uint64_t moduleBytes = 16ull << 20;      ///< text of one module
-    std::uint32_t modules = 32767;                ///< modules of one project
-    std::uint32_t storageDepth = 16;              ///< nested storages of a compound file
+    std::uint64_t fileBytes = 2048ull << 20;    ///< size of a file: --max-file-size
+    std::uint64_t zipPartBytes = 256ull << 20;  ///< unpacked size of one part of a zip: --max-zip-part-size
+    std::uint32_t zipParts = 1000;              ///< parts of a zip: --max-zip-parts
+    std::uint32_t zipRatio = 200;               ///< unpacked to packed size, behind the first MiB: --max-zip-ratio
+    std::uint64_t moduleBytes = 16ull << 20;    ///< text of one module: --max-module-size
+    std::uint64_t sourceBytes = 256ull << 20;   ///< text of all modules of one document: --max-source-size
+    std::uint32_t modules = 32767;              ///< modules of one project: --max-modules
+    std::uint32_t storageDepth = 16;            ///< nested storages of a compound file: --max-storage-depth
 };
 
 }  // namespace zentlor::readers

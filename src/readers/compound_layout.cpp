@@ -1,0 +1,101 @@
+#include "readers/compound_layout.h"
+
+#include <vector>
+
+#include "readers/byte_reader.h"
+
+namespace zentlor::readers {
+namespace {
+
+constexpr std::uint32_t kFree = 0xFFFFFFFF;
+constexpr std::uint32_t kEndOfChain = 0xFFFFFFFE;
+constexpr std::uint32_t kHighestSector = 0xFFFFFFFA;
+constexpr std::size_t kHeaderBytes = 512;
+constexpr std::size_t kHeaderTableSectors = 109;
+constexpr std::size_t kEntryBytes = 128;
+constexpr std::uint32_t kMiniStreamCutoff = 4096;
+
+class Measurer {
+  public:
+    explicit Measurer(std::string_view bytes) : bytes_(bytes) {}
+
+    CompoundLayout Measure() {
+        CompoundLayout layout;
+        if (!ReadHeader() || !ReadTableSectors()) return layout;
+        layout.truncated = HighestUsedSector() >= sectors_;
+        std::uint32_t sector = U32At(bytes_, 0x30);
+        std::uint64_t steps = 0;
+        // A chain that is longer than the file has sectors runs in a circle.
+        for (; sector < sectors_ && steps <= sectors_; ++steps) sector = Next(sector);
+        layout.directoryEntries = steps * (sectorBytes_ / kEntryBytes);
+        layout.sound = sector == kEndOfChain && steps > 0;
+        return layout;
+    }
+
+  private:
+    bool ReadHeader() {
+        const unsigned shift = U16At(bytes_, 0x1E);
+        if (bytes_.size() < kHeaderBytes || (shift != 9 && shift != 12) || U16At(bytes_, 0x20) != 6) return false;
+        if (U32At(bytes_, 0x38) != kMiniStreamCutoff) return false;
+        sectorBytes_ = std::size_t{1} << shift;
+        // A last sector that is cut short counts: its bytes may be all that is needed.
+        sectors_ = (bytes_.size() + sectorBytes_ - 1) / sectorBytes_ - 1;
+        const std::uint32_t table = U32At(bytes_, 0x2C), miniTable = U32At(bytes_, 0x40), extra = U32At(bytes_, 0x48);
+        return table <= sectors_ && miniTable <= sectors_ && extra <= sectors_;
+    }
+
+    std::size_t OffsetOf(std::uint64_t sector) const { return (sector + 1) * sectorBytes_; }
+
+    // The sectors that hold the allocation table: the first 109 are named in the header, the rest in a chain.
+    bool ReadTableSectors() {
+        const std::uint32_t count = U32At(bytes_, 0x2C);
+        for (std::size_t i = 0; i < kHeaderTableSectors && tableSectors_.size() < count; ++i) {
+            tableSectors_.push_back(U32At(bytes_, 0x4C + 4 * i));
+        }
+        std::uint32_t sector = U32At(bytes_, 0x44);
+        const std::size_t perSector = sectorBytes_ / 4 - 1;
+        for (std::uint32_t left = U32At(bytes_, 0x48); left > 0 && sector < sectors_; --left) {
+            for (std::size_t i = 0; i < perSector && tableSectors_.size() < count; ++i) {
+                tableSectors_.push_back(U32At(bytes_, OffsetOf(sector) + 4 * i));
+            }
+            sector = U32At(bytes_, OffsetOf(sector) + 4 * perSector);
+        }
+        return tableSectors_.size() == count;
+    }
+
+    std::uint32_t Next(std::uint32_t sector) const {
+        const std::size_t perSector = sectorBytes_ / 4;
+        const std::size_t index = sector / perSector;
+        if (index >= tableSectors_.size() || tableSectors_[index] >= sectors_) return kFree;
+        return U32At(bytes_, OffsetOf(tableSectors_[index]) + 4 * (sector % perSector));
+    }
+
+    std::uint64_t HighestUsedSector() const {
+        std::uint64_t highest = 0;
+        const std::size_t perSector = sectorBytes_ / 4;
+        for (std::size_t i = 0; i < tableSectors_.size(); ++i) {
+            if (tableSectors_[i] <= kHighestSector && tableSectors_[i] > highest) highest = tableSectors_[i];
+            if (tableSectors_[i] >= sectors_) continue;
+            for (std::size_t k = perSector; k > 0; --k) {
+                if (U32At(bytes_, OffsetOf(tableSectors_[i]) + 4 * (k - 1)) == kFree) continue;
+                const std::uint64_t used = i * perSector + k - 1;
+                if (used > highest) highest = used;
+                break;
+            }
+        }
+        return highest;
+    }
+
+    std::string_view bytes_;
+    std::size_t sectorBytes_ = 512;
+    std::uint64_t sectors_ = 0;
+    std::vector<std::uint32_t> tableSectors_;
+};
+
+}  // namespace
+
+CompoundLayout MeasureCompoundFile(std::string_view bytes) {
+    return Measurer(bytes).Measure();
+}
+
+}  // namespace zentlor::readers

@@ -1,0 +1,23 @@
+#pragma once
+
+// A look at the bones of a compound file before a library takes it apart ([MS-CFB] 2.2 and 2.3). The library's time
+// grows with the square of the directory and its stack with the depth of it, and it trusts some sizes of the header; so
+// these are measured first.
+
+#include <cstdint>
+#include <string_view>
+
+namespace zentlor::readers {
+
+struct CompoundLayout {
+    /// Header, allocation table and directory chain agree with the size of the file.
+    bool sound = false;
+    /// Entries of the directory, free ones included.
+    std::uint64_t directoryEntries = 0;
+    /// The allocation table speaks of sectors behind the end of the file: its end is missing.
+    bool truncated = false;
+};
+
+CompoundLayout MeasureCompoundFile(std::string_view bytes);
+
+}  // namespace zentlor::readers

@@ -1,0 +1,101 @@
+// Compound files through libgsf. Its lists are walked from their start at each call, so the names of a storage are
+// asked for once and kept with their numbers.
+
+#include <gsf/gsf-infile-msole.h>
+#include <gsf/gsf-input-memory.h>
+
+#include <unordered_map>
+
+#include "core/utilities/encoding.h"
+#include "readers/compound_layout.h"
+#include "readers/container.h"
+#include "readers/gsf_library.h"
+#include "readers/sentences.h"
+
+namespace zentlor::readers {
+namespace {
+
+// The library needs time with the square of the entries, and stack for each: 16384 cost it half a second.
+constexpr std::uint64_t kMaximumEntries = 16384;
+
+Text Folded(TextView name) {
+    Text folded(name);
+    for (char16_t& c : folded) c = FoldCase(c);
+    return folded;
+}
+
+class GsfStorage final : public Storage {
+  public:
+    explicit GsfStorage(GsfPointer<GsfInfile> infile) : infile_(std::move(infile)) {
+        const int count = gsf_infile_num_children(infile_.get());
+        for (int i = 0; i < count; ++i) {
+            const char* name = gsf_infile_name_by_index(infile_.get(), i);
+            names_.push_back(FromUtf8(name == nullptr ? "" : name));
+            indexes_.emplace(Folded(names_.back()), i);
+        }
+    }
+
+    std::vector<Text> StorageNames() const override { return NamesOf(true); }
+    std::vector<Text> StreamNames() const override { return NamesOf(false); }
+
+    std::unique_ptr<Storage> OpenStorage(TextView name) const override {
+        GsfPointer<GsfInput> child = OpenChild(name);
+        if (!child || !IsStorage(child.get())) return nullptr;
+        return std::make_unique<GsfStorage>(GsfPointer<GsfInfile>(GSF_INFILE(child.release())));
+    }
+
+    std::optional<std::string> ReadStream(TextView name, std::uint64_t maximum, bool* damaged) const override {
+        const GsfPointer<GsfInput> child = OpenChild(name);
+        if (!child || IsStorage(child.get())) return std::nullopt;
+        return ReadGsfInput(child.get(), maximum, damaged);
+    }
+
+  private:
+    static bool IsStorage(GsfInput* child) {
+        return GSF_IS_INFILE(child) && gsf_infile_num_children(GSF_INFILE(child)) >= 0;
+    }
+
+    GsfPointer<GsfInput> OpenChild(TextView name) const {
+        const auto found = indexes_.find(Folded(name));
+        if (found == indexes_.end()) return nullptr;
+        return GsfPointer<GsfInput>(gsf_infile_child_by_index(infile_.get(), found->second));
+    }
+
+    std::vector<Text> NamesOf(bool storages) const {
+        std::vector<Text> names;
+        for (std::size_t i = 0; i < names_.size(); ++i) {
+            const GsfPointer<GsfInput> child(gsf_infile_child_by_index(infile_.get(), static_cast<int>(i)));
+            if (child && IsStorage(child.get()) == storages) names.push_back(names_[i]);
+        }
+        return names;
+    }
+
+    GsfPointer<GsfInfile> infile_;
+    std::vector<Text> names_;
+    std::unordered_map<Text, int> indexes_;
+};
+
+}  // namespace
+
+std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, bool* truncated) {
+    if (!HasCompoundSignature(bytes)) return nullptr;
+    const CompoundLayout layout = MeasureCompoundFile(bytes);
+    if (truncated != nullptr) *truncated = layout.truncated;
+    if (!layout.sound) return nullptr;
+    if (layout.directoryEntries > kMaximumEntries) {
+        Fail(ReadFailure::Limit,
+             "\"[%1]\" enthält mehr als [%2] Speicher und Datenströme, mehr als jedes echte Dokument; im "
+             "Ursprungsprogramm neu speichern.",
+             "\"[%1]\" holds more than [%2] storages and streams, more than any real document; save it anew in its "
+             "program.",
+             {path, std::to_string(kMaximumEntries)});
+    }
+    StartGsf();
+    const GsfPointer<GsfInput> input(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),
+                                                          static_cast<gsf_off_t>(bytes.size()), FALSE));
+    GsfPointer<GsfInfile> infile(gsf_infile_msole_new(input.get(), nullptr));
+    if (!infile) return nullptr;
+    return std::make_unique<GsfStorage>(std::move(infile));
+}
+
+}  // namespace zentlor::readers

@@ -1,0 +1,65 @@
+// The parts of a zip through libgsf, which sees a zip as a tree of folders.
+
+#include <gsf/gsf-infile-zip.h>
+#include <gsf/gsf-input-memory.h>
+
+#include "readers/container.h"
+#include "readers/gsf_library.h"
+#include "readers/sentences.h"
+#include "readers/zip_directory.h"
+
+namespace zentlor::readers {
+namespace {
+
+class GsfZip final : public ZipArchive {
+  public:
+    GsfZip(GsfPointer<GsfInfile> infile, std::vector<ZipPart> parts)
+        : infile_(std::move(infile)), parts_(std::move(parts)) {}
+
+    const std::vector<ZipPart>& Parts() const override { return parts_; }
+
+    std::string Read(std::size_t index, std::uint64_t maximum, bool* damaged) const override {
+        const GsfPointer<GsfInput> part = Open(parts_[index].name);
+        if (part) return ReadGsfInput(part.get(), maximum, damaged);
+        if (damaged != nullptr) *damaged = true;
+        return {};
+    }
+
+  private:
+    GsfPointer<GsfInput> Open(std::string_view name) const {
+        GsfPointer<GsfInput> found;
+        while (true) {
+            const std::size_t slash = name.find('/');
+            const std::string step(name.substr(0, slash));
+            GsfInfile* folder = found ? GSF_INFILE(found.get()) : infile_.get();
+            found.reset(gsf_infile_child_by_name(folder, step.c_str()));
+            if (!found || slash == std::string_view::npos) return found;
+            if (!GSF_IS_INFILE(found.get())) return nullptr;
+            name.remove_prefix(slash + 1);
+        }
+    }
+
+    GsfPointer<GsfInfile> infile_;
+    std::vector<ZipPart> parts_;
+};
+
+}  // namespace
+
+std::unique_ptr<ZipArchive> OpenZip(std::string_view bytes, const std::string& path, const Limits& limits) {
+    if (!HasZipSignature(bytes)) return nullptr;
+    ZipDirectory directory = ReadZipDirectory(bytes, limits.zipParts);
+    if (directory.tooManyParts) {
+        Fail(ReadFailure::Limit, "\"[%1]\" enthält mehr als [%2] Teile; --max-zip-parts hebt die Grenze an.",
+             "\"[%1]\" holds more than [%2] parts; --max-zip-parts raises the limit.",
+             {path, std::to_string(limits.zipParts)});
+    }
+    if (!directory.sound) return nullptr;
+    StartGsf();
+    const GsfPointer<GsfInput> input(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),
+                                                          static_cast<gsf_off_t>(bytes.size()), FALSE));
+    GsfPointer<GsfInfile> infile(gsf_infile_zip_new(input.get(), nullptr));
+    if (!infile) return nullptr;
+    return std::make_unique<GsfZip>(std::move(infile), std::move(directory.parts));
+}
+
+}  // namespace zentlor::readers

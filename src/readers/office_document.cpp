@@ -1,0 +1,249 @@
+// A document is opened in two steps: what holds the project (a part of a zip, a storage of a compound file, a record of
+// a presentation), and then the project itself, which is the same everywhere.
+
+#include "readers/office_document.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "core/utilities/encoding.h"
+#include "readers/container.h"
+#include "readers/office_kind.h"
+#include "readers/ovba_project.h"
+#include "readers/ppt_records.h"
+#include "readers/project_search.h"
+#include "readers/property_set.h"
+#include "readers/sentences.h"
+
+namespace zentlor::readers {
+namespace {
+
+constexpr std::uint64_t kMiB = 1 << 20;
+constexpr std::uint64_t kHeadBytes = 64 * 1024;
+
+// A bound that a small file does not get all of, so that memory stays in proportion to the file.
+std::uint64_t InProportion(std::uint64_t bound, std::uint64_t part, std::uint64_t times, std::uint64_t fileBytes) {
+    return std::min(bound, bound / part + times * fileBytes);
+}
+
+// The text between the first "<tag>" and the next "<".
+std::string ElementText(std::string_view xml, std::string_view tag) {
+    const std::string open = "<" + std::string(tag) + ">";
+    const std::size_t at = xml.find(open);
+    if (at == std::string_view::npos) return {};
+    const std::string_view rest = xml.substr(at + open.size());
+    return std::string(rest.substr(0, std::min(rest.find('<'), std::size_t{200})));
+}
+
+// "Microsoft Excel" and "16.0300" as "Microsoft Excel 16": what follows the point is a build number, if anything.
+std::string Joined(const std::string& name, const std::string& version) {
+    const std::string major = " " + version.substr(0, version.find('.'));
+    const bool told = name.empty() || version.empty() || name.find(major) != std::string::npos;
+    return told ? name : name + major;
+}
+
+class DocumentReader {
+  public:
+    DocumentReader(std::string_view bytes, const std::string& path, const Limits& limits)
+        : bytes_(bytes), path_(path), limits_(limits) {
+        document_.path = path;
+        document_.projectName = FromUtf8(std::filesystem::path(path).stem().string());
+        limits_.sourceBytes = InProportion(limits.sourceBytes, 64, 3, bytes.size());
+        unpackedLeft_ = InProportion(limits.zipPartBytes, 8, 8, bytes.size());
+    }
+
+    Document Read() {
+        if (HasZipSignature(bytes_)) {
+            ReadZip();
+        } else if (HasCompoundSignature(bytes_)) {
+            ReadCompound();
+        } else {
+            RefuseKind();
+        }
+        return std::move(document_);
+    }
+
+  private:
+    [[noreturn]] void RefuseKind() const {
+        Fail(ReadFailure::NotADocument,
+             "\"[%1]\" ist keine Office-Datei; gelesen werden Word-, Excel-, PowerPoint- und Visio-Dateien.",
+             "\"[%1]\" is no Office file; Word, Excel, PowerPoint and Visio files are read.", {path_});
+    }
+
+    [[noreturn]] void RefuseDamaged() const {
+        Fail(ReadFailure::Damaged,
+             "\"[%1]\" ist beschädigt oder abgeschnitten; die Datei aus einer Sicherung holen oder neu übertragen.",
+             "\"[%1]\" is damaged or cut off; take the file from a backup or transfer it anew.", {path_});
+    }
+
+    void ReadZip() {
+        const auto zip = OpenZip(bytes_, path_, limits_);
+        if (!zip) RefuseDamaged();
+        const auto description = DescribeOpenXml(ReadSmallPart(*zip, "[Content_Types].xml"), zip->Parts());
+        if (!description) RefuseKind();
+        document_.description = *description;
+        const std::string app = ReadSmallPart(*zip, "docProps/app.xml");
+        document_.application = Joined(ElementText(app, "Application"), ElementText(app, "AppVersion"));
+        if (!ReadProjectOfZip(*zip) && damagedPart_) RefuseDamaged();
+    }
+
+    static std::string ReadSmallPart(const ZipArchive& zip, std::string_view name) {
+        for (std::size_t i = 0; i < zip.Parts().size(); ++i) {
+            if (zip.Parts()[i].name == name) return zip.Read(i, kHeadBytes);
+        }
+        return {};
+    }
+
+    // The document's own project is a compound file by itself; one further down belongs to an embedded document, and
+    // counts only if there is no other. No name of a part is trusted.
+    bool ReadProjectOfZip(const ZipArchive& zip) {
+        std::string embedded;
+        for (std::size_t i = 0; i < zip.Parts().size(); ++i) {
+            if (!HasCompoundSignature(zip.Read(i, 8))) continue;
+            std::string part = UnpackPart(zip, i);
+            bool truncated = false;
+            const auto root = OpenCompoundFile(part, path_, &truncated);
+            damagedPart_ |= !root || truncated;
+            if (root && HoldsOvbaProject(*root)) {
+                TakeProject(*root);
+                if (truncated) ReportTruncated();
+                return true;
+            }
+            if (root && embedded.empty() && FindBelow(*root)) embedded = std::move(part);
+        }
+        const auto root = OpenCompoundFile(embedded, path_);
+        const auto project = root ? FindBelow(*root) : nullptr;
+        if (project) TakeProject(*project);
+        return project != nullptr;
+    }
+
+    std::string UnpackPart(const ZipArchive& zip, std::size_t index) {
+        const ZipPart& part = zip.Parts()[index];
+        const std::uint64_t packed = std::min<std::uint64_t>(part.packedBytes, bytes_.size());
+        const std::uint64_t byRatio = std::max(kMiB, packed * limits_.zipRatio);
+        const std::uint64_t maximum = std::min(byRatio, unpackedLeft_);
+        std::string bytes = zip.Read(index, maximum + 1, &damagedPart_);
+        unpackedLeft_ -= std::min<std::uint64_t>(unpackedLeft_, bytes.size());
+        if (bytes.size() > maximum) RefuseUnpacked(part.name, byRatio <= maximum);
+        return bytes;
+    }
+
+    [[noreturn]] void RefuseUnpacked(const std::string& part, bool byRatio) const {
+        Fail(ReadFailure::Limit, "\"[%1]\" im Dokument \"[%2]\" wird ausgepackt zu groß; [%3] hebt die Grenze an.",
+             "\"[%1]\" in the document \"[%2]\" unpacks to too many bytes; [%3] raises the limit.",
+             {part, path_, byRatio ? "--max-zip-ratio" : "--max-zip-part-size"});
+    }
+
+    void ReadCompound() {
+        bool truncated = false;
+        const auto root = OpenCompoundFile(bytes_, path_, &truncated);
+        if (!root) RefuseDamaged();
+        RefuseEncrypted(*root);
+        const auto description = DescribeCompoundFile(*root);
+        document_.description = description.value_or(Sentence{"VBA-Projekt ohne Dokument", "VBA project by itself"});
+        ReadApplication(*root);
+        const bool read = ReadProjectOfCompound(*root);
+        if (!read && truncated) RefuseDamaged();
+        if (!read && !description) RefuseKind();
+        if (truncated) ReportTruncated();
+    }
+
+    void RefuseEncrypted(const Storage& root) const {
+        if (!root.ReadStream(u"EncryptedPackage", 1)) return;
+        Fail(ReadFailure::Encrypted,
+             "\"[%1]\" ist mit einem Kennwort verschlüsselt; im Ursprungsprogramm öffnen und ohne Kennwort speichern.",
+             "\"[%1]\" is encrypted with a password; open it in its program and save it without the password.",
+             {path_});
+    }
+
+    void ReadApplication(const Storage& root) {
+        const std::string summary = root.ReadStream(u"\5SummaryInformation", kHeadBytes).value_or("");
+        const std::string more = root.ReadStream(u"\5DocumentSummaryInformation", kHeadBytes).value_or("");
+        document_.application = Joined(ApplicationName(summary), ApplicationVersion(more));
+    }
+
+    // False if there is none.
+    bool ReadProjectOfCompound(const Storage& root) {
+        if (HoldsOvbaProject(root)) {
+            TakeProject(root);
+            return true;
+        }
+        if (ReadProjectOfPresentation(root)) return true;
+        const auto project = FindBelow(root);
+        if (project) TakeProject(*project);
+        return project != nullptr;
+    }
+
+    bool ReadProjectOfPresentation(const Storage& root) {
+        const auto stream = root.ReadStream(u"PowerPoint Document", bytes_.size());
+        if (!stream) return false;
+        const PptStorages storages = FindPptStorages(*stream, unpackedLeft_);
+        if (storages.limitHit) RefuseUnpacked("PowerPoint Document", false);
+        for (const std::string& bytes : storages.compoundFiles) {
+            const auto embedded = OpenCompoundFile(bytes, path_);
+            if (!embedded || !HoldsOvbaProject(*embedded)) continue;
+            TakeProject(*embedded);
+            return true;
+        }
+        return false;
+    }
+
+    std::unique_ptr<Storage> FindBelow(const Storage& root) const {
+        FoundProject found = FindOvbaProject(root, limits_.storageDepth);
+        if (!found.root && found.tooDeep) {
+            Fail(ReadFailure::Limit,
+                 "\"[%1]\" schachtelt Speicher tiefer als [%2]; --max-storage-depth hebt die Grenze an.",
+                 "\"[%1]\" nests storages deeper than [%2]; --max-storage-depth raises the limit.",
+                 {path_, std::to_string(limits_.storageDepth)});
+        }
+        return std::move(found.root);
+    }
+
+    void TakeProject(const Storage& root) {
+        OvbaProject project = ReadOvbaProject(root, path_, limits_);
+        if (project.modules.empty() && project.compiledOnly > 0) {
+            Fail(ReadFailure::CompiledOnly,
+                 "\"[%1]\" enthält nur kompilierten Code, der Quelltext wurde entfernt; die Datei mit dem Quelltext "
+                 "prüfen.",
+                 "\"[%1]\" holds compiled code only, its source was removed; check the file that has the source.",
+                 {path_});
+        }
+        if (project.compiledOnly > 0) {
+            project.problems.push_back(MakeSentence(
+                "[%1] Module in \"[%2]\" enthalten nur kompilierten Code; die Datei mit dem Quelltext prüfen.",
+                "[%1] modules in \"[%2]\" hold compiled code only; check the file that has the source.",
+                {std::to_string(project.compiledOnly), path_}));
+        }
+        if (!project.name.empty()) document_.projectName = std::move(project.name);
+        document_.codePage = project.codePage;
+        document_.locked = project.locked;
+        document_.modules = std::move(project.modules);
+        document_.references = std::move(project.references);
+        document_.problems = std::move(project.problems);
+    }
+
+    void ReportTruncated() {
+        document_.problems.push_back(
+            MakeSentence("\"[%1]\" ist abgeschnitten, gelesen wurde, was da ist; die Datei neu übertragen.",
+                         "\"[%1]\" is cut off, what is there was read; transfer the file anew.", {path_}));
+    }
+
+    std::string_view bytes_;
+    const std::string& path_;
+    Limits limits_;
+    std::uint64_t unpackedLeft_ = 0;
+    bool damagedPart_ = false;
+    Document document_;
+};
+
+}  // namespace
+
+bool LooksLikeOfficeDocument(std::string_view bytes) {
+    return HasZipSignature(bytes) || HasCompoundSignature(bytes);
+}
+
+Document ReadOfficeDocument(std::string_view bytes, const std::string& path, const Limits& limits) {
+    return DocumentReader(bytes, path, limits).Read();
+}
+
+}  // namespace zentlor::readers
