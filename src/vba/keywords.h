@@ -4,6 +4,7 @@
 // them. A reserved word is never a declared name; a contextual one is a keyword in some places and a name in all
 // others.
 
+#include <cstddef>
 #include <cstdint>
 
 #include "core/utilities/text.h"
@@ -16,6 +17,13 @@ enum class Keyword : std::uint16_t {
 #include "vba/keywords.def"
 #undef KEYWORD
 };
+
+/// The number of keywords; their values run from 1 to this one.
+inline constexpr std::size_t kKeywordCount = 0
+#define KEYWORD(word, wordClass) +1
+#include "vba/keywords.def"
+#undef KEYWORD
+    ;
 
 /// The keyword that `word` is in any capitalisation, or `Keyword::None`. `word` holds ASCII characters alone.
 Keyword FindKeyword(TextView word);

@@ -26,7 +26,8 @@ enum class TokenKind : std::uint8_t {
     String,        ///< The quotation marks included.
     Operator,      ///< Operators and punctuation; `op` says which.
     Directive,     ///< `#If`, `#ElseIf`, `#Else`, `#End` (an `If` follows) or `#Const`; `keyword` holds the word.
-    Comment,       ///< From "'" or "Rem" to the line's end or to the continuation's blank; then line by line on.
+    Comment,       ///< From "'" or "Rem" to the line's end or to the "_" of a continuation; then line by line
+                   ///< on, blanks included. `keyword` is `Rem` where the comment begins with this word.
     Unknown,       ///< Characters that VBA has no use for.
 };
 
@@ -72,7 +73,7 @@ struct Token {
     std::uint32_t length = 0;
     TokenKind kind = TokenKind::EndOfText;
     std::uint8_t flags = 0;
-    std::uint16_t id = 0;  ///< A `Keyword` for words and directives, an `Operator` for operators, else 0.
+    std::uint16_t id = 0;  ///< An `Operator` for operators, else a `Keyword` or 0.
 
     Keyword keyword() const { return kind == TokenKind::Operator ? Keyword::None : static_cast<Keyword>(id); }
     Operator op() const { return kind == TokenKind::Operator ? static_cast<Operator>(id) : Operator::None; }

@@ -99,7 +99,7 @@ class Scanner {
             flags |= kTypeCharacter;
             ++end;
         }
-        if (keyword == Keyword::Rem && isKeyword) return ScanComment(end - at_);
+        if (keyword == Keyword::Rem && isKeyword) return ScanComment(end - at_, keyword);
         Add(isKeyword ? TokenKind::Keyword : TokenKind::Name, end - at_, static_cast<std::uint16_t>(keyword), flags);
     }
 
@@ -191,7 +191,7 @@ class Scanner {
     }
 
     // A comment whose mark ("'" or "Rem") has `mark` characters. Each of its lines becomes a token of its own.
-    void ScanComment(std::size_t mark) {
+    void ScanComment(std::size_t mark, Keyword word = Keyword::None) {
         std::size_t place = at_ + mark;
         while (true) {
             while (place < text_.size() && text_[place] != u'\n') ++place;
@@ -200,7 +200,8 @@ class Scanner {
             const bool continues =
                 last > at_ && text_[last - 1] == u'_' && (last - 1 == at_ || HasTrait(text_[last - 2], kBlank));
             const std::size_t end = continues ? last - 1 : place;
-            if (end > at_) Add(TokenKind::Comment, end - at_);
+            if (end > at_) Add(TokenKind::Comment, end - at_, static_cast<std::uint16_t>(word));
+            word = Keyword::None;
             if (!continues) return;
             place = place < text_.size() ? place + 1 : place;
             Add(TokenKind::Continuation, place - at_);

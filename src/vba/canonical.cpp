@@ -1,0 +1,200 @@
+// The writer compares each token, and the blanks in front of it, with what the editor would store. Only a difference is
+// written: the text before it is copied in one run, then the better form. A module that is canonical already costs the
+// comparison and nothing else.
+
+#include "vba/canonical.h"
+
+#include <algorithm>
+
+#include "vba/characters.h"
+#include "vba/header_parentheses.h"
+#include "vba/keyword_role.h"
+#include "vba/spacing.h"
+#include "vba/token_form.h"
+
+namespace zentlor::vba {
+namespace {
+
+constexpr std::size_t kTabStop = 4;
+
+class ModuleWriter {
+  public:
+    ModuleWriter(const Tokens& tokens, TextView text, const Capitalisation& capitalisation, Text& out)
+        : tokens_(tokens), text_(text), capitalisation_(capitalisation), out_(out), spacing_(tokens) {}
+
+    bool Run() {
+        std::size_t first = 0;
+        while (tokens_[first].kind != TokenKind::EndOfText) {
+            bool isReadable = true;
+            const std::size_t end = FindLineEnd(first, isReadable);
+            if (isReadable) WriteLine(first, end);
+            first = end + 1;
+        }
+        if (!hasChanged_) return false;
+        out_.append(text_.substr(done_));
+        return true;
+    }
+
+  private:
+    // The `EndOfLine` of the logical line that begins with token `first`. A line is readable if it holds no unknown
+    // character, no "." and "!" without a member and no open parenthesis. Attributes are never rewritten.
+    std::size_t FindLineEnd(std::size_t first, bool& isReadable) const {
+        int depth = 0;
+        isReadable = tokens_[first].keyword() != Keyword::Attribute;
+        std::size_t i = first;
+        for (; tokens_[i].kind != TokenKind::EndOfLine; ++i) {
+            const Token& token = tokens_[i];
+            if (token.kind == TokenKind::Unknown) isReadable = false;
+            if (token.kind != TokenKind::Operator) continue;
+            if (token.Is(Operator::OpenParenthesis)) ++depth;
+            if (token.Is(Operator::CloseParenthesis) && --depth < 0) isReadable = false;
+            if (token.Is(Operator::Dot) || token.Is(Operator::Bang)) {
+                const Token& member = tokens_[SkipContinuations(tokens_, i + 1)];
+                if (!member.IsWord() && !member.Is(Operator::Question)) isReadable = false;
+            }
+        }
+        if (depth != 0) isReadable = false;
+        return i;
+    }
+
+    void WriteLine(std::size_t first, std::size_t end) {
+        spacing_.BeginLine(first);
+        const MissingParentheses missing = FindMissingParentheses(tokens_, first, end);
+        for (std::size_t i = first; i <= end; ++i) {
+            const Token& token = tokens_[i];
+            const std::size_t gapStart = i == 0 ? 0 : tokens_[i - 1].End();
+            const Gap gap = spacing_.Before(i);
+            if (IsFirstOfPhysicalLine(i)) {
+                WriteIndentation(gapStart, token);
+            } else if (tokens_[i - 1].kind != TokenKind::Comment) {
+                WriteGap(gapStart, token.offset, gap);
+            }
+            WriteToken(i);
+            if (i == missing.behind) Replace(token.End(), token.End(), missing.text);
+        }
+    }
+
+    bool IsFirstOfPhysicalLine(std::size_t index) const {
+        return index == 0 || tokens_[index - 1].kind == TokenKind::EndOfLine ||
+               tokens_[index - 1].kind == TokenKind::Continuation;
+    }
+
+    void WriteIndentation(std::size_t start, const Token& token) {
+        columnStart_ = start;
+        column_ = 0;
+        if (token.kind == TokenKind::EndOfLine) return WriteGap(start, token.offset, Gap::None);
+        ExpandBlanks(start, token.offset);
+    }
+
+    void WriteGap(std::size_t start, std::size_t end, Gap gap) {
+        switch (gap) {
+            case Gap::None:
+                if (start != end) Replace(start, end, {});
+                break;
+            case Gap::One:
+                if (end != start + 1 || text_[start] != u' ') Replace(start, end, u" ");
+                break;
+            case Gap::Kept:
+                if (start == end) return Replace(start, end, u" ");
+                ExpandBlanks(start, end);
+                break;
+        }
+    }
+
+    // Tabs become the blanks that they stand for, with a stop every four columns; other blanks become one each.
+    void ExpandBlanks(std::size_t start, std::size_t end) {
+        const bool isPlain =
+            std::all_of(text_.begin() + start, text_.begin() + end, [](char16_t c) { return c == u' '; });
+        if (isPlain) return;
+        const std::size_t from = ColumnOf(start);
+        Replace(start, end, Text(ColumnOf(end) - from, u' '));
+    }
+
+    // The column in which the character at `place` of the present line is shown, from 0. Goes on from the last
+    // question.
+    std::size_t ColumnOf(std::size_t place) {
+        for (; columnStart_ < place; ++columnStart_) {
+            column_ = text_[columnStart_] == u'\t' ? (column_ / kTabStop + 1) * kTabStop : column_ + 1;
+        }
+        return column_;
+    }
+
+    void WriteToken(std::size_t index) {
+        const Token& token = tokens_[index];
+        switch (token.kind) {
+            case TokenKind::Name:
+                return WriteName(index);
+            case TokenKind::Keyword:
+                if (token.keyword() == Keyword::EndIf) return ReplaceIfOther(token, u"End If");
+                return ReplaceIfOther(token, Spelling(token.keyword()));
+            case TokenKind::Operator:
+                return ReplaceIfOther(token, FormOf(token.op()));
+            case TokenKind::EndOfText:
+            case TokenKind::EndOfLine:
+                return;
+            case TokenKind::String:
+                if (token.Has(kUnterminated)) Replace(token.End(), token.End(), u"\"");
+                return;
+            default:
+                return WriteOther(token);
+        }
+    }
+
+    void WriteName(std::size_t index) {
+        const Token& token = tokens_[index];
+        if (token.Has(kBracketed)) return;
+        const Token name = WithoutTypeCharacter(token);
+        if (!HasProjectCapitalisation(token)) return ReplaceIfOther(name, Spelling(token.keyword()));
+        if (capitalisation_.IsUniform()) return;
+        TextView spelling = capitalisation_.SpellingOf(TextOf(name, text_));
+        if (token.id != 0 && spelling != Spelling(token.keyword()) &&
+            StandsAsKeyword(tokens_, index, spacing_.StatementStart())) {
+            spelling = Spelling(token.keyword());
+        }
+        ReplaceIfOther(name, spelling);
+    }
+
+    void WriteOther(const Token& token) {
+        const TextView present = TextOf(token, text_);
+        if (HasForm(token, present)) return;
+        Replace(token.offset, token.End(), FormOf(token, present));
+    }
+
+    static Token WithoutTypeCharacter(Token token) {
+        if (token.Has(kTypeCharacter)) --token.length;
+        return token;
+    }
+
+    void ReplaceIfOther(const Token& token, TextView form) {
+        if (TextOf(token, text_) != form) Replace(token.offset, token.End(), form);
+    }
+
+    void Replace(std::size_t from, std::size_t to, TextView form) {
+        if (!hasChanged_) {
+            hasChanged_ = true;
+            out_.clear();
+            out_.reserve(text_.size() + text_.size() / 16);
+        }
+        out_.append(text_.substr(done_, from - done_));
+        out_.append(form);
+        done_ = to;
+    }
+
+    const Tokens& tokens_;
+    TextView text_;
+    const Capitalisation& capitalisation_;
+    Text& out_;
+    Spacing spacing_;
+    std::size_t done_ = 0;  // everything in front of it has been written, once anything has changed
+    bool hasChanged_ = false;
+    std::size_t columnStart_ = 0;
+    std::size_t column_ = 0;
+};
+
+}  // namespace
+
+bool Canonicaliser::Write(const Tokens& tokens, TextView text, Text& canonical) const {
+    return ModuleWriter(tokens, text, capitalisation_, canonical).Run();
+}
+
+}  // namespace zentlor::vba

@@ -1,0 +1,34 @@
+// The table is filled in one pass a module, at the side of which the declarations are recognised.
+
+#include "vba/capitalisation.h"
+
+#include <algorithm>
+
+#include "vba/declaration_reader.h"
+#include "vba/library_names.h"
+
+namespace zentlor::vba {
+
+Capitalisation::Capitalisation() {
+    TextView rest = kLibraryNames;
+    while (!rest.empty()) {
+        const std::size_t length = std::min(rest.find(u' '), rest.size());
+        names_.Add(rest.substr(0, length), NameRank::Library);
+        rest.remove_prefix(std::min(length + 1, rest.size()));
+    }
+    for (std::size_t id = 1; id <= kKeywordCount; ++id) {
+        const auto keyword = static_cast<Keyword>(id);
+        if (IsContextual(keyword)) names_.Add(Spelling(keyword), NameRank::Library);
+    }
+}
+
+void Capitalisation::Learn(const Tokens& tokens, TextView text) {
+    DeclarationReader declarations;
+    for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
+        const bool declares = declarations.Declares(tokens[i], tokens[i + 1]);
+        if (!HasProjectCapitalisation(tokens[i])) continue;
+        names_.Add(NameOf(tokens[i], text), declares ? NameRank::Declared : NameRank::Met);
+    }
+}
+
+}  // namespace zentlor::vba

@@ -1,0 +1,124 @@
+// Names in ASCII, nearly all of them, are hashed four characters at a time with the bit set that tells small letters
+// from capitals; names with other letters are folded first. The spelling that a name has in the table is compared
+// first, since it is nearly always the one that was asked for.
+
+#include "vba/name_table.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "vba/characters.h"
+
+namespace zentlor::vba {
+namespace {
+
+constexpr std::size_t kFirstSlots = 4096;
+constexpr std::size_t kBlockLength = 16384;
+constexpr std::uint64_t kCaseBits = 0x0020002000200020;
+constexpr std::uint64_t kWideBits = 0xFF80FF80FF80FF80;
+
+char16_t Fold(char16_t c) {
+    return FoldCase(FoldWidth(c));
+}
+
+bool EqualFolded(TextView a, TextView b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char16_t x, char16_t y) { return Fold(x) == Fold(y); });
+}
+
+std::uint64_t Mix(std::uint64_t hash, std::uint64_t part) {
+    hash = (hash ^ part) * 0x9E3779B97F4A7C15;
+    return hash ^ (hash >> 29);
+}
+
+// `wide` receives a bit for each character outside of ASCII.
+std::uint64_t HashNarrow(TextView name, std::uint64_t& wide) {
+    std::uint64_t hash = name.size();
+    std::size_t i = 0;
+    std::uint64_t part = 0;
+    for (; i + 4 <= name.size(); i += 4) {
+        std::memcpy(&part, name.data() + i, sizeof part);
+        wide |= part & kWideBits;
+        hash = Mix(hash, part | kCaseBits);
+    }
+    part = 0;
+    for (; i < name.size(); ++i) part = part << 16 | name[i];
+    wide |= part & kWideBits;
+    return Mix(hash, part | kCaseBits);
+}
+
+std::uint64_t HashName(TextView name) {
+    std::uint64_t wide = 0;
+    const std::uint64_t hash = HashNarrow(name, wide);
+    if (wide == 0) return hash;
+    Text folded(name);
+    std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
+    return HashNarrow(folded, wide);
+}
+
+}  // namespace
+
+NameTable::NameTable() : slots_(kFirstSlots) {}
+
+void NameTable::Add(TextView name, NameRank rank) {
+    const std::uint64_t hash = HashName(name);
+    const Entry* found = Find(name, hash);
+    if (found == nullptr) return Insert(name, hash, rank);
+    Entry& entry = entries_[static_cast<std::size_t>(found - entries_.data())];
+    const bool isSame = entry.spelling == name;
+    if (!isSame) isUniform_ = false;
+    if (rank <= entry.rank) return;
+    entry.rank = rank;
+    if (!isSame) entry.spelling = Keep(name);
+}
+
+TextView NameTable::SpellingOf(TextView name) const {
+    const Entry* found = Find(name, HashName(name));
+    return found == nullptr ? name : found->spelling;
+}
+
+const NameTable::Entry* NameTable::Find(TextView name, std::uint64_t hash) const {
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t slot = hash & mask; slots_[slot] != 0; slot = (slot + 1) & mask) {
+        const Entry& entry = entries_[slots_[slot] - 1];
+        if (entry.hash == hash && (entry.spelling == name || EqualFolded(entry.spelling, name))) return &entry;
+    }
+    return nullptr;
+}
+
+void NameTable::Insert(TextView name, std::uint64_t hash, NameRank rank) {
+    if ((entries_.size() + 1) * 2 > slots_.size()) Grow();
+    entries_.push_back({hash, Keep(name), rank});
+    if (entries_.back().spelling != name) isUniform_ = false;
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t slot = hash & mask;
+    while (slots_[slot] != 0) slot = (slot + 1) & mask;
+    slots_[slot] = static_cast<std::uint32_t>(entries_.size());
+}
+
+void NameTable::Grow() {
+    std::vector<std::uint32_t> larger(slots_.size() * 2);
+    const std::size_t mask = larger.size() - 1;
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        std::size_t slot = entries_[i].hash & mask;
+        while (larger[slot] != 0) slot = (slot + 1) & mask;
+        larger[slot] = static_cast<std::uint32_t>(i + 1);
+    }
+    slots_ = std::move(larger);
+}
+
+// The letters are kept in their narrow form: the editor turns full-width letters into ASCII ones.
+TextView NameTable::Keep(TextView name) {
+    if (blocks_.empty() || free_ < name.size()) {
+        const std::size_t length = std::max(kBlockLength, name.size());
+        blocks_.push_back(std::make_unique<char16_t[]>(length));
+        blockEnd_ = blocks_.back().get() + length;
+        free_ = length;
+    }
+    char16_t* start = blockEnd_ - free_;
+    std::transform(name.begin(), name.end(), start, FoldWidth);
+    free_ -= name.size();
+    return {start, name.size()};
+}
+
+}  // namespace zentlor::vba

@@ -1,0 +1,52 @@
+#pragma once
+
+// The one capitalisation that every name of a project has. Names are kept by their letters without regard to case and
+// to full width; a table of slots with open addressing finds a name in constant time and without allocation.
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "core/utilities/text.h"
+
+namespace zentlor::vba {
+
+/// Where a capitalisation comes from. The higher rank wins; of equal ranks the first one stays.
+enum class NameRank : std::uint8_t { Met, Library, Declared };
+
+class NameTable {
+  public:
+    /// An empty table.
+    NameTable();
+
+    /// Takes `name`, without brackets and type character, in the capitalisation in which it stands. Copies its letters.
+    void Add(TextView name, NameRank rank);
+
+    /// The capitalisation of `name`; `name` itself if the table doesn't hold it. Valid until the next `Add`.
+    TextView SpellingOf(TextView name) const;
+
+    /// True if each name was added in one and the same capitalisation, so that nothing is to be changed anywhere.
+    bool IsUniform() const { return isUniform_; }
+
+  private:
+    struct Entry {
+        std::uint64_t hash;
+        TextView spelling;
+        NameRank rank;
+    };
+
+    const Entry* Find(TextView name, std::uint64_t hash) const;
+    void Insert(TextView name, std::uint64_t hash, NameRank rank);
+    void Grow();
+    TextView Keep(TextView name);
+
+    std::vector<Entry> entries_;
+    std::vector<std::uint32_t> slots_;  // index into `entries_` + 1, or 0; their number is a power of two
+    std::vector<std::unique_ptr<char16_t[]>> blocks_;
+    char16_t* blockEnd_ = nullptr;
+    std::size_t free_ = 0;  // unused characters at the end of the last block
+    bool isUniform_ = true;
+};
+
+}  // namespace zentlor::vba

@@ -1,0 +1,68 @@
+// A chain is a name followed by members and by lists in parentheses. A "." with a blank in front of it and none behind
+// it begins an argument (`Foo .Name`), any other one a member.
+
+#include "vba/statement_head.h"
+
+namespace zentlor::vba {
+namespace {
+
+// The ")" of the "(" at `open`, or `kNoToken` if the statement ends before.
+std::size_t FindClose(const Tokens& tokens, std::size_t open) {
+    int depth = 0;
+    for (std::size_t i = open;; ++i) {
+        const Token& token = tokens[i];
+        if (token.Is(Operator::OpenParenthesis)) ++depth;
+        if (token.Is(Operator::CloseParenthesis) && --depth == 0) return i;
+        const bool ends = token.Is(TokenKind::EndOfLine) || token.Is(TokenKind::EndOfText) ||
+                          token.Is(Operator::Colon) || token.Is(Keyword::Then) || token.Is(Keyword::Else);
+        if (ends) return kNoToken;
+    }
+}
+
+bool IsMemberMark(const Token& token) {
+    return token.Is(Operator::Dot) || token.Is(Operator::Bang);
+}
+
+bool BeginsArgument(const Tokens& tokens, std::size_t mark) {
+    const Token& before = tokens[mark - 1];
+    return before.kind == TokenKind::Name && before.End() < tokens[mark].offset &&
+           tokens[mark + 1].offset == tokens[mark].End();
+}
+
+}  // namespace
+
+StatementHead ReadStatementHead(const Tokens& tokens, std::size_t start) {
+    StatementHead head;
+    std::size_t at = start;
+    std::size_t open = kNoToken;
+    Keyword last = Keyword::None;
+    if (tokens[at].kind == TokenKind::Name) last = tokens[at++].keyword();
+    while (true) {
+        const std::size_t next = SkipContinuations(tokens, at);
+        if (IsMemberMark(tokens[next])) {
+            if (next > start && BeginsArgument(tokens, next)) break;
+            const std::size_t member = SkipContinuations(tokens, next + 1);
+            if (!tokens[member].IsWord() && !tokens[member].Is(Operator::Question)) break;
+            last = tokens[member].keyword();
+            open = kNoToken;
+            at = member + 1;
+        } else if (tokens[next].Is(Operator::OpenParenthesis)) {
+            const std::size_t close = FindClose(tokens, next);
+            if (close == kNoToken) break;
+            open = next;
+            at = close + 1;
+        } else {
+            break;
+        }
+    }
+    const std::size_t behind = SkipContinuations(tokens, at);
+    head.isDrawing = last == Keyword::Line || last == Keyword::Scale;
+    if (open == kNoToken) {
+        head.end = behind;
+    } else if (at != open + 2 && !tokens[behind].Is(Operator::Equal) && !tokens[behind].Is(Keyword::As)) {
+        head.argument = open;
+    }
+    return head;
+}
+
+}  // namespace zentlor::vba
