@@ -1,5 +1,6 @@
 '= Modul Prozeduren
 Option Explicit
+Private Remark As Long, mGröße As Long
 Public Sub Leer() '! Leer "Prozedur ist leer"
 End Sub
 '! NurKommentar
