@@ -46,14 +46,15 @@ function(zentlor_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE zentlor_settings ${ARG_PRIVATE_LINK})
 endfunction()
 
-# zentlor_test(NAME LINK target...): one GoogleTest program of every source file of the current folder's NAME/.
+# zentlor_test(NAME [SUPPORT file...] LINK target...)
+# One GoogleTest program of every source file of the current folder's NAME/, and of the support files named.
 function(zentlor_test name)
-  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SUPPORT;LINK" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
   if(NOT sources)
     return()
   endif()
-  add_executable(test_${name} ${sources})
+  add_executable(test_${name} ${sources} ${ARG_SUPPORT})
   target_include_directories(test_${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   target_compile_definitions(test_${name} PRIVATE ZENTLOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gtest_main zentlor_settings)

@@ -12,7 +12,7 @@ bool IsSpace(char16_t c) {
     return c == u' ' || c == u'\t';
 }
 
-// Takes words off the front of a statement.
+// Takes words off the front of a statement. A continuation between two words is a blank like others.
 class StatementReader {
   public:
     explicit StatementReader(TextView statement) : rest_(statement) { SkipSpace(); }
@@ -46,7 +46,12 @@ class StatementReader {
         SkipSpace();
     }
     void SkipSpace() {
-        while (!rest_.empty() && IsSpace(rest_.front())) rest_.remove_prefix(1);
+        for (;;) {
+            while (!rest_.empty() && IsSpace(rest_.front())) rest_.remove_prefix(1);
+            const auto behindMark = rest_.starts_with(u'_') ? rest_.find_first_not_of(u" \t", 1) : TextView::npos;
+            if (behindMark == TextView::npos || rest_[behindMark] != u'\n') return;
+            rest_.remove_prefix(behindMark + 1);
+        }
     }
 
     TextView rest_;
@@ -103,9 +108,9 @@ bool MayBoundProcedure(TextView line) {
     return c == u'e' || c == u'f' || c == u'g' || c == u'p' || c == u's' || (c >= u'0' && c <= u'9');
 }
 
-// Walks the statements of one physical line; colons in strings separate nothing, and a comment ends the line.
+// Walks the statements of one logical line; colons in strings separate nothing, and a comment ends the line.
 template <class Visit>
-void ForEachStatement(TextView line, Visit visit) {
+void ForEachStatementOf(TextView line, Visit visit) {
     std::size_t begin = 0;
     bool quoted = false;
     for (std::size_t i = 0; i < line.size(); ++i) {
@@ -125,50 +130,49 @@ class ExtentFinder {
 
     ModuleExtents Run() {
         const int lines = static_cast<int>(lineStarts_.size()) - 1;
-        bool continued = false;
-        bool comment = false;
-        for (int number = 1; number <= lines; ++number) {
-            const TextView line = Line(number);
-            if (!continued) comment = IsCommentLine(line);
-            if (!comment) VisitLine(number, line, continued);
-            continued = IsContinuedLine(line);
+        for (int first = 1; first <= lines;) {
+            int last = first;
+            while (last < lines && IsContinuedLine(Line(last))) ++last;
+            if (!IsCommentLine(Line(first))) VisitLogicalLine(first, last);
+            first = last + 1;
         }
         Finish(lines);
         return std::move(result_);
     }
 
   private:
-    TextView Line(int number) const {
-        const auto index = static_cast<std::size_t>(number - 1);
-        return text_.substr(lineStarts_[index], lineStarts_[index + 1] - lineStarts_[index] - 1);
+    TextView Line(int number) const { return Text(number, number); }
+
+    // Physical lines `first` to `last`, without the last line end.
+    TextView Text(int first, int last) const {
+        const std::uint32_t begin = lineStarts_[static_cast<std::size_t>(first - 1)];
+        return text_.substr(begin, lineStarts_[static_cast<std::size_t>(last)] - begin - 1);
     }
 
-    void VisitLine(int number, TextView line, bool continued) {
-        ReadStatements(number, line, continued);
-        const bool declares = continued || !IsBlankLine(line);
-        if (result_.procedures.empty() && declares) result_.declarationLines = number;
-    }
-
-    void ReadStatements(int number, TextView line, bool continued) {
+    void VisitLogicalLine(int first, int last) {
+        const TextView line = Text(first, last);
         const bool severalStatements = open_ && line.find(u':') != TextView::npos;
-        if (!severalStatements && (continued || !MayBoundProcedure(line))) return;
-        bool first = !continued;
-        ForEachStatement(line, [&](TextView statement) {
-            VisitStatement(number, statement, first);
-            first = false;
-        });
+        if (severalStatements || MayBoundProcedure(line)) {
+            bool startsLine = true;
+            ForEachStatementOf(line, [&](TextView statement) {
+                VisitStatement(first, last, statement, startsLine);
+                startsLine = false;
+            });
+        }
+        const bool declares = first != last || !IsBlankLine(line);
+        if (result_.procedures.empty() && declares) result_.declarationLines = last;
     }
 
-    void VisitStatement(int number, TextView statement, bool startsLine) {
+    void VisitStatement(int first, int last, TextView statement, bool startsLine) {
         if (open_) {
             if (!IsProcedureEnd(statement)) return;
-            result_.procedures.back().lastLine = number;
+            result_.procedures.back().lastLine = last;
             open_ = false;
             return;
         }
         Header header;
         if (!startsLine || !ReadHeader(statement, header)) return;
-        result_.procedures.push_back({header.name, header.kind, 0, number, number});
+        result_.procedures.push_back({header.name, header.kind, 0, first, last});
         open_ = true;
     }
 

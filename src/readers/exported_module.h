@@ -1,0 +1,26 @@
+#pragma once
+
+// Modules that the editor, Access or a version control tool wrote into text files, one module a file.
+
+#include <string>
+#include <string_view>
+
+#include "readers/document.h"
+
+namespace zentlor::readers {
+
+/// Whether a file of a folder is read as an exported module: by its ending (.bas, .cls, .frm in any case), or by its
+/// first bytes, for Access text exports under .txt, .form and .report.
+bool IsExportedModule(std::string_view path, std::string_view firstBytes);
+
+/// The text of a file: UTF-16 and UTF-8 by byte-order mark, else strict UTF-8, else Windows-1252.
+Text DecodeModuleText(std::string_view bytes);
+
+/// The module that `bytes` hold. Its name is `VB_Name`, else the stem of `path`; its type follows from the ending and
+/// the attributes. Throws `ReadError` (`NotADocument`) for bytes that are no text.
+SourceModule ReadExportedModule(std::string_view bytes, const std::string& path);
+
+/// The file's name in `path` without folder and without its last ending.
+std::string FileStem(std::string_view path);
+
+}  // namespace zentlor::readers
