@@ -37,7 +37,7 @@ std::uint64_t RowCountAt(JetGeneration generation) {
 
 bool JetFile::Recognises(std::string_view bytes) {
     const std::string_view signature = BytesAt(bytes, 4, 15);
-    return U32At(bytes, 0) == 0x00000100 && (signature == "Standard Jet DB" || signature == "Standard ACE DB");
+    return signature == "Standard Jet DB" || signature == "Standard ACE DB";
 }
 
 JetFile::JetFile(std::string_view bytes) : bytes_(bytes) {
