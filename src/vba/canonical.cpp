@@ -19,15 +19,25 @@ constexpr std::size_t kTabStop = 4;
 
 class ModuleWriter {
   public:
-    ModuleWriter(const Tokens& tokens, TextView text, const Capitalisation& capitalisation, Text& out)
-        : tokens_(tokens), text_(text), capitalisation_(capitalisation), out_(out), spacing_(tokens) {}
+    ModuleWriter(const Tokens& tokens, TextView text, const Capitalisation& capitalisation,
+                 const std::vector<std::uint32_t>& names, Text& out)
+        : tokens_(tokens),
+          text_(text),
+          capitalisation_(capitalisation),
+          nextName_(names.data()),
+          out_(out),
+          spacing_(tokens) {}
 
     bool Run() {
         std::size_t first = 0;
         while (tokens_[first].kind != TokenKind::EndOfText) {
             bool isReadable = true;
             const std::size_t end = FindLineEnd(first, isReadable);
-            if (isReadable) WriteLine(first, end);
+            if (isReadable) {
+                WriteLine(first, end);
+            } else {
+                SkipNames(first, end);
+            }
             first = end + 1;
         }
         if (!hasChanged_) return false;
@@ -65,7 +75,7 @@ class ModuleWriter {
             const std::size_t gapStart = i == 0 ? 0 : tokens_[i - 1].End();
             const Gap gap = spacing_.Before(i);
             if (IsFirstOfPhysicalLine(i)) {
-                WriteIndentation(gapStart, token);
+                WriteIndentation(gapStart, token.offset);
             } else if (tokens_[i - 1].kind != TokenKind::Comment) {
                 WriteGap(gapStart, token.offset, gap);
             }
@@ -74,16 +84,19 @@ class ModuleWriter {
         }
     }
 
+    void SkipNames(std::size_t first, std::size_t end) {
+        nextName_ += std::count_if(tokens_.begin() + first, tokens_.begin() + end, HasProjectCapitalisation);
+    }
+
     bool IsFirstOfPhysicalLine(std::size_t index) const {
         return index == 0 || tokens_[index - 1].kind == TokenKind::EndOfLine ||
                tokens_[index - 1].kind == TokenKind::Continuation;
     }
 
-    void WriteIndentation(std::size_t start, const Token& token) {
+    void WriteIndentation(std::size_t start, std::size_t end) {
         columnStart_ = start;
         column_ = 0;
-        if (token.kind == TokenKind::EndOfLine) return WriteGap(start, token.offset, Gap::None);
-        ExpandBlanks(start, token.offset);
+        ExpandBlanks(start, end);
     }
 
     void WriteGap(std::size_t start, std::size_t end, Gap gap) {
@@ -145,13 +158,10 @@ class ModuleWriter {
         if (token.Has(kBracketed)) return;
         const Token name = WithoutTypeCharacter(token);
         if (!HasProjectCapitalisation(token)) return ReplaceIfOther(name, Spelling(token.keyword()));
-        if (capitalisation_.IsUniform()) return;
-        TextView spelling = capitalisation_.SpellingOf(TextOf(name, text_));
-        if (token.id != 0 && spelling != Spelling(token.keyword()) &&
-            StandsAsKeyword(tokens_, index, spacing_.StatementStart())) {
-            spelling = Spelling(token.keyword());
-        }
-        ReplaceIfOther(name, spelling);
+        const std::uint32_t number = *nextName_++;
+        if (!capitalisation_.Varies(number)) return;
+        const bool isKeyword = token.id != 0 && StandsAsKeyword(tokens_, index, spacing_.StatementStart());
+        ReplaceIfOther(name, isKeyword ? Spelling(token.keyword()) : capitalisation_.SpellingOf(number));
     }
 
     void WriteOther(const Token& token) {
@@ -183,6 +193,7 @@ class ModuleWriter {
     const Tokens& tokens_;
     TextView text_;
     const Capitalisation& capitalisation_;
+    const std::uint32_t* nextName_;  // the number of the next name with a project's capitalisation
     Text& out_;
     Spacing spacing_;
     std::size_t done_ = 0;  // everything in front of it has been written, once anything has changed
@@ -193,8 +204,13 @@ class ModuleWriter {
 
 }  // namespace
 
-bool Canonicaliser::Write(const Tokens& tokens, TextView text, Text& canonical) const {
-    return ModuleWriter(tokens, text, capitalisation_, canonical).Run();
+std::size_t Canonicaliser::Learn(const Tokens& tokens, TextView text) {
+    names_.push_back(capitalisation_.Learn(tokens, text));
+    return names_.size() - 1;
+}
+
+bool Canonicaliser::Write(std::size_t number, const Tokens& tokens, TextView text, Text& canonical) const {
+    return ModuleWriter(tokens, text, capitalisation_, names_[number], canonical).Run();
 }
 
 }  // namespace zentlor::vba

@@ -17,18 +17,21 @@ Capitalisation::Capitalisation() {
         rest.remove_prefix(std::min(length + 1, rest.size()));
     }
     for (std::size_t id = 1; id <= kKeywordCount; ++id) {
-        const auto keyword = static_cast<Keyword>(id);
-        if (IsContextual(keyword)) names_.Add(Spelling(keyword), NameRank::Library);
+        const TextView spelling = Spelling(static_cast<Keyword>(id));
+        if (!names_.Holds(spelling)) names_.Add(spelling, NameRank::Library);
     }
 }
 
-void Capitalisation::Learn(const Tokens& tokens, TextView text) {
+std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView text) {
     DeclarationReader declarations;
+    std::vector<std::uint32_t> numbers;
+    numbers.reserve(tokens.size() / 2);
     for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
         const bool declares = declarations.Declares(tokens[i], tokens[i + 1]);
         if (!HasProjectCapitalisation(tokens[i])) continue;
-        names_.Add(NameOf(tokens[i], text), declares ? NameRank::Declared : NameRank::Met);
+        numbers.push_back(names_.Add(NameOf(tokens[i], text), declares ? NameRank::Declared : NameRank::Met));
     }
+    return numbers;
 }
 
 }  // namespace zentlor::vba

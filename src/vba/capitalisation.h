@@ -3,6 +3,9 @@
 // One capitalisation for each name of a project, as the editor keeps it: that of the first declaration in the order of
 // the modules; without one that of the libraries; without that the first one met.
 
+#include <cstdint>
+#include <vector>
+
 #include "vba/name_table.h"
 #include "vba/token.h"
 
@@ -16,23 +19,27 @@ class Capitalisation {
     /// A name that is declared outside of the text: a component's.
     void LearnDeclared(TextView name) { names_.Add(name, NameRank::Declared); }
 
-    /// Takes the names of one module. The order of the calls decides which declaration is the first.
-    void Learn(const Tokens& tokens, TextView text);
+    /// Takes the names of one module. The order of the calls decides which declaration is the first. Returns a number
+    /// for each token with `HasProjectCapitalisation`, in their order.
+    std::vector<std::uint32_t> Learn(const Tokens& tokens, TextView text);
 
-    /// The capitalisation of a name, given without brackets and type character. Asks for nothing but the name: whether
-    /// a word stands for a keyword at its place is the caller's matter.
-    TextView SpellingOf(TextView name) const { return names_.SpellingOf(name); }
+    /// The capitalisation of the name with that number. Asks for nothing but the name: whether a word stands for a
+    /// keyword at its place is the caller's matter.
+    TextView SpellingOf(std::uint32_t number) const { return names_.SpellingOf(number); }
 
-    /// True if all names learned so far stand everywhere as `SpellingOf` gives them.
-    bool IsUniform() const { return names_.IsUniform(); }
+    /// False if the name stands everywhere as `SpellingOf` gives it, and is no contextual word that was declared in
+    /// another capitalisation than the keyword's.
+    bool Varies(std::uint32_t number) const { return names_.Varies(number); }
 
   private:
     NameTable names_;
 };
 
-/// True for tokens whose capitalisation the project decides: names without brackets that are no fixed word of VBA.
+/// True for tokens whose capitalisation the project decides: names without brackets that are no fixed word of VBA, and
+/// members whatever word they are (`Debug.Print`).
 inline bool HasProjectCapitalisation(const Token& token) {
-    return token.kind == TokenKind::Name && !token.Has(kBracketed) && (token.id == 0 || IsContextual(token.keyword()));
+    if (token.kind != TokenKind::Name || token.Has(kBracketed)) return false;
+    return token.id == 0 || token.Has(kMember) || IsContextual(token.keyword());
 }
 
 }  // namespace zentlor::vba

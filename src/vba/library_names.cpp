@@ -1,5 +1,6 @@
 // A name that no module declares has the capitalisation of the library that declares it. The list holds the whole VBA
-// library, and of the database libraries what programs use most. Words of the language itself are not listed.
+// library, and of the database libraries what programs use most. Words of the language itself are listed only where a
+// member is written otherwise than the keyword.
 
 #include "vba/library_names.h"
 
@@ -51,7 +52,7 @@ const TextView kLibraryNames =
     u"CopyObject CurrentDb CurrentProject CurrentUser CurrentView DAvg DCount DeleteObject DFirst Dirty DisplayAlerts "
     u"DLast "
     u"DLookup DMax DMin DoCmd DoMenuItem DStDev DStDevP DSum DVar DVarP Echo Enabled Eval FilterOn FindFirst FindLast "
-    u"FindNext FindPrevious FindRecord Form Forms GoToControl GoToPage GoToRecord HasData Hourglass ItemsSelected "
+    u"FindNext FindPrevious FindRecord Form Forms Goto GoToControl GoToPage GoToRecord HasData Hourglass ItemsSelected "
     u"LimitToList ListCount ListIndex Locked Maximize Minimize MoveSize Nz OldValue OnClick OpenArgs "
     u"OpenCurrentDatabase "
     u"OpenForm OpenModule OpenQuery OpenReport OpenTable OrderBy OrderByOn OutputTo Parent PrintOut Quit Recalc "

@@ -60,40 +60,40 @@ std::uint64_t HashName(TextView name) {
 
 NameTable::NameTable() : slots_(kFirstSlots) {}
 
-void NameTable::Add(TextView name, NameRank rank) {
+std::uint32_t NameTable::Add(TextView name, NameRank rank) {
     const std::uint64_t hash = HashName(name);
-    const Entry* found = Find(name, hash);
-    if (found == nullptr) return Insert(name, hash, rank);
-    Entry& entry = entries_[static_cast<std::size_t>(found - entries_.data())];
-    const bool isSame = entry.spelling == name;
-    if (!isSame) isUniform_ = false;
-    if (rank <= entry.rank) return;
-    entry.rank = rank;
-    if (!isSame) entry.spelling = Keep(name);
-}
-
-TextView NameTable::SpellingOf(TextView name) const {
-    const Entry* found = Find(name, HashName(name));
-    return found == nullptr ? name : found->spelling;
-}
-
-const NameTable::Entry* NameTable::Find(TextView name, std::uint64_t hash) const {
-    const std::size_t mask = slots_.size() - 1;
-    for (std::size_t slot = hash & mask; slots_[slot] != 0; slot = (slot + 1) & mask) {
-        const Entry& entry = entries_[slots_[slot] - 1];
-        if (entry.hash == hash && (entry.spelling == name || EqualFolded(entry.spelling, name))) return &entry;
+    const std::size_t slot = FindSlot(name, hash);
+    if (slots_[slot] == 0) {
+        const TextView kept = Keep(name);
+        entries_.push_back({hash, kept, rank, kept != name});
+        slots_[slot] = static_cast<std::uint32_t>(entries_.size());
+        if (entries_.size() * 2 > slots_.size()) Grow();
+        return static_cast<std::uint32_t>(entries_.size() - 1);
     }
-    return nullptr;
+    const std::uint32_t number = slots_[slot] - 1;
+    Entry& entry = entries_[number];
+    const bool isSame = entry.spelling == name;
+    if (!isSame) entry.varies = true;
+    if (rank > entry.rank) {
+        entry.rank = rank;
+        if (!isSame) entry.spelling = Keep(name);
+    }
+    return number;
 }
 
-void NameTable::Insert(TextView name, std::uint64_t hash, NameRank rank) {
-    if ((entries_.size() + 1) * 2 > slots_.size()) Grow();
-    entries_.push_back({hash, Keep(name), rank});
-    if (entries_.back().spelling != name) isUniform_ = false;
+bool NameTable::Holds(TextView name) const {
+    return slots_[FindSlot(name, HashName(name))] != 0;
+}
+
+// The slot of the name, or the free one where it belongs.
+std::size_t NameTable::FindSlot(TextView name, std::uint64_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
-    while (slots_[slot] != 0) slot = (slot + 1) & mask;
-    slots_[slot] = static_cast<std::uint32_t>(entries_.size());
+    for (; slots_[slot] != 0; slot = (slot + 1) & mask) {
+        const Entry& entry = entries_[slots_[slot] - 1];
+        if (entry.hash == hash && (entry.spelling == name || EqualFolded(entry.spelling, name))) break;
+    }
+    return slot;
 }
 
 void NameTable::Grow() {

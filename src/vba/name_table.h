@@ -21,23 +21,26 @@ class NameTable {
     NameTable();
 
     /// Takes `name`, without brackets and type character, in the capitalisation in which it stands. Copies its letters.
-    void Add(TextView name, NameRank rank);
+    /// Returns the name's number, the same for every capitalisation.
+    std::uint32_t Add(TextView name, NameRank rank);
 
-    /// The capitalisation of `name`; `name` itself if the table doesn't hold it. Valid until the next `Add`.
-    TextView SpellingOf(TextView name) const;
+    /// The capitalisation of the name with that number. Valid until the next `Add`.
+    TextView SpellingOf(std::uint32_t number) const { return entries_[number].spelling; }
 
-    /// True if each name was added in one and the same capitalisation, so that nothing is to be changed anywhere.
-    bool IsUniform() const { return isUniform_; }
+    /// True if the name was added in more than one capitalisation, so that some place must be changed.
+    bool Varies(std::uint32_t number) const { return entries_[number].varies; }
+
+    bool Holds(TextView name) const;
 
   private:
     struct Entry {
         std::uint64_t hash;
         TextView spelling;
         NameRank rank;
+        bool varies;
     };
 
-    const Entry* Find(TextView name, std::uint64_t hash) const;
-    void Insert(TextView name, std::uint64_t hash, NameRank rank);
+    std::size_t FindSlot(TextView name, std::uint64_t hash) const;
     void Grow();
     TextView Keep(TextView name);
 
@@ -46,7 +49,6 @@ class NameTable {
     std::vector<std::unique_ptr<char16_t[]>> blocks_;
     char16_t* blockEnd_ = nullptr;
     std::size_t free_ = 0;  // unused characters at the end of the last block
-    bool isUniform_ = true;
 };
 
 }  // namespace zentlor::vba
