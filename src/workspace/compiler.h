@@ -1,0 +1,19 @@
+#pragma once
+
+// From the text of a file to the text that the editor would store, and to the answer whether it compiles: one pass of
+// tokens for both.
+
+#include "workspace/workspace.h"
+
+namespace zentlor::workspace {
+
+struct CompiledModules {
+    std::vector<CompileError> errors;
+    /// For each module its code as it was read, where that was wanted and differs from the canonical one; else empty.
+    std::vector<Text> rawCode;
+};
+
+/// Brings the code of the modules of one project into canonical form and checks it. Line numbers do not change.
+CompiledModules Compile(std::vector<readers::SourceModule>& modules, bool keepRawCode, StageTimes* times);
+
+}  // namespace zentlor::workspace
