@@ -1,0 +1,221 @@
+// Operators are read by rank: a loop takes those that bind at least as strongly as asked for, and descends for what
+// stands on their right.
+
+#include "vba/parser_condition.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+namespace zentlor::vba {
+namespace {
+
+constexpr int kDeepest = 100;
+constexpr double kTrue = -1;
+
+// Ranks of operators, the weakest first. 0 is no operator.
+int RankOf(const Token& token) {
+    switch (token.keyword()) {
+        case Keyword::Imp:
+            return 1;
+        case Keyword::Eqv:
+            return 2;
+        case Keyword::Xor:
+            return 3;
+        case Keyword::Or:
+            return 4;
+        case Keyword::And:
+            return 5;
+        case Keyword::Mod:
+            return 10;
+        default:
+            break;
+    }
+    switch (token.op()) {
+        case Operator::Equal:
+        case Operator::NotEqual:
+        case Operator::Less:
+        case Operator::LessEqual:
+        case Operator::Greater:
+        case Operator::GreaterEqual:
+            return 7;
+        case Operator::Concatenate:
+            return 8;
+        case Operator::Plus:
+        case Operator::Minus:
+            return 9;
+        case Operator::IntegerDivide:
+            return 11;
+        case Operator::Times:
+        case Operator::Divide:
+            return 12;
+        case Operator::Power:
+            return 14;
+        default:
+            return 0;
+    }
+}
+
+constexpr int kNotRank = 6;
+constexpr int kSignRank = 13;
+
+std::int64_t Whole(double number) {
+    constexpr double kLargest = 9e18;
+    return static_cast<std::int64_t>(std::clamp(std::isfinite(number) ? number : 0.0, -kLargest, kLargest));
+}
+
+ConditionValue Number(double number) {
+    return {number, {}, false};
+}
+ConditionValue Truth(bool isTrue) {
+    return Number(isTrue ? kTrue : 0);
+}
+
+int Compare(const ConditionValue& a, const ConditionValue& b) {
+    if (a.isString && b.isString) return a.characters.compare(b.characters);
+    return a.number < b.number ? -1 : a.number > b.number ? 1 : 0;
+}
+
+ConditionValue Combine(const Token& token, const ConditionValue& a, const ConditionValue& b) {
+    const std::int64_t left = Whole(a.number);
+    const std::int64_t right = Whole(b.number);
+    switch (token.keyword()) {
+        case Keyword::Imp:
+            return Number(static_cast<double>(~left | right));
+        case Keyword::Eqv:
+            return Number(static_cast<double>(~(left ^ right)));
+        case Keyword::Xor:
+            return Number(static_cast<double>(left ^ right));
+        case Keyword::Or:
+            return Number(static_cast<double>(left | right));
+        case Keyword::And:
+            return Number(static_cast<double>(left & right));
+        case Keyword::Mod:
+            return Number(right == 0 ? 0 : std::fmod(static_cast<double>(left), static_cast<double>(right)));
+        default:
+            break;
+    }
+    switch (token.op()) {
+        case Operator::Equal:
+            return Truth(Compare(a, b) == 0);
+        case Operator::NotEqual:
+            return Truth(Compare(a, b) != 0);
+        case Operator::Less:
+            return Truth(Compare(a, b) < 0);
+        case Operator::LessEqual:
+            return Truth(Compare(a, b) <= 0);
+        case Operator::Greater:
+            return Truth(Compare(a, b) > 0);
+        case Operator::GreaterEqual:
+            return Truth(Compare(a, b) >= 0);
+        case Operator::Plus:
+            return Number(a.number + b.number);
+        case Operator::Minus:
+            return Number(a.number - b.number);
+        case Operator::Times:
+            return Number(a.number * b.number);
+        case Operator::Divide:
+        case Operator::IntegerDivide:
+            return Number(b.number == 0 ? 0 : std::trunc(a.number / b.number));
+        case Operator::Power:
+            return Number(std::pow(a.number, b.number));
+        default:
+            return {};
+    }
+}
+
+class ConditionReader {
+  public:
+    ConditionReader(TextView text, const ConditionConstants& constants, const Token*& token)
+        : text_(text), constants_(constants), token_(token) {}
+
+    ConditionValue Read(int lowestRank) {
+        if (depth_ >= kDeepest) return {};
+        ++depth_;
+        ConditionValue value = ReadOperand();
+        for (int rank = RankOf(*token_); rank != 0 && rank >= lowestRank; rank = RankOf(*token_)) {
+            const Token& op = *token_;
+            Advance();
+            value = Combine(op, value, Read(rank + 1));
+        }
+        --depth_;
+        return value;
+    }
+
+  private:
+    void Advance() {
+        do {
+            ++token_;
+        } while (token_->Is(TokenKind::Continuation) || token_->Is(TokenKind::Comment));
+    }
+
+    ConditionValue ReadOperand() {
+        const Token& token = *token_;
+        const bool isOver = token.Is(TokenKind::EndOfLine) || token.Is(TokenKind::EndOfText);
+        if (isOver || token.Is(Keyword::Then) || token.Is(Operator::CloseParenthesis)) return {};
+        Advance();
+        switch (token.kind) {
+            case TokenKind::Name:
+                return constants_.ValueOf(NameOf(token, text_));
+            case TokenKind::Keyword:
+                if (token.Is(Keyword::Not)) return Number(static_cast<double>(~Whole(Read(kNotRank).number)));
+                return Truth(token.Is(Keyword::True));
+            case TokenKind::String:
+                return {0, TextOf(token, text_).substr(1), true};
+            case TokenKind::Operator:
+                return ReadSigned(token);
+            default:
+                return Number(NumberOf(TextOf(token, text_)));
+        }
+    }
+
+    ConditionValue ReadSigned(const Token& sign) {
+        if (sign.Is(Operator::Minus)) return Number(-Read(kSignRank).number);
+        if (sign.Is(Operator::Plus)) return Read(kSignRank);
+        if (!sign.Is(Operator::OpenParenthesis)) return {};
+        const ConditionValue value = Read(1);
+        if (token_->Is(Operator::CloseParenthesis)) Advance();
+        return value;
+    }
+
+    static double NumberOf(TextView digits) {
+        std::string narrow;
+        for (const char16_t c : digits) narrow += c < 128 ? static_cast<char>(c) : '?';
+        if (narrow.starts_with("&H") || narrow.starts_with("&h")) narrow.replace(0, 2, "0x");
+        return std::strtod(narrow.c_str(), nullptr);
+    }
+
+    TextView text_;
+    const ConditionConstants& constants_;
+    const Token*& token_;
+    int depth_ = 0;
+};
+
+Text Folded(TextView name) {
+    Text folded(name);
+    for (char16_t& c : folded) c = FoldCase(c);
+    return folded;
+}
+
+}  // namespace
+
+ConditionConstants::ConditionConstants() {
+    for (const TextView name : {u"VBA6", u"VBA7", u"Win32", u"Win64"}) Set(name, Number(kTrue));
+}
+
+void ConditionConstants::Set(TextView name, const ConditionValue& value) {
+    values_[Folded(name)] = value;
+}
+
+ConditionValue ConditionConstants::ValueOf(TextView name) const {
+    const auto found = values_.find(Folded(name));
+    return found == values_.end() ? ConditionValue{} : found->second;
+}
+
+ConditionValue EvaluateCondition(TextView text, const ConditionConstants& constants, const Token*& token) {
+    return ConditionReader(text, constants, token).Read(1);
+}
+
+}  // namespace zentlor::vba

@@ -1,0 +1,43 @@
+#pragma once
+
+// The names of one scope, found in any capitalisation. Clearing costs nothing, so one table serves all procedures of a
+// module one after the other.
+
+#include <cstdint>
+#include <vector>
+
+#include "core/utilities/text.h"
+#include "vba/token.h"
+
+namespace zentlor::vba {
+
+class NameTable {
+  public:
+    struct Entry {
+        TextView name;
+        const Token* token = nullptr;
+        std::uint32_t kinds = 0;  ///< The caller's bits.
+        std::uint32_t hash = 0;
+        std::uint32_t generation = 0;
+    };
+
+    explicit NameTable(TextView text);
+
+    /// The entry of that name, or null.
+    Entry* Find(TextView name);
+    /// Enters the name of `token`. If it is there already nothing is entered, and that entry is the answer; else null.
+    Entry* Enter(const Token& token, std::uint32_t kinds = 0);
+    void Clear();
+
+  private:
+    Entry* Slot(TextView name, std::uint32_t hash);
+    bool IsUsed(const Entry& entry) const { return entry.generation == generation_; }
+    void Grow();
+
+    TextView text_;
+    std::vector<Entry> entries_;
+    std::size_t count_ = 0;
+    std::uint32_t generation_ = 1;
+};
+
+}  // namespace zentlor::vba
