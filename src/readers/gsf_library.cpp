@@ -31,7 +31,8 @@ void StartGsf() {
     static std::once_flag once;
     std::call_once(once, [] {
         gsf_init();
-        for (const char* domain : {"libgsf", "libgsf:msole", "libgsf:zip"}) {
+        // Some of its complaints come without a name.
+        for (const char* domain : {"libgsf", "libgsf:msole", "libgsf:zip", static_cast<const char*>(nullptr)}) {
             g_log_set_handler(domain, static_cast<GLogLevelFlags>(G_LOG_LEVEL_MASK | G_LOG_FLAG_RECURSION), Swallow,
                               nullptr);
         }
