@@ -94,7 +94,10 @@ std::optional<Tree> ReadTree(JetFile& file, const JetTable& table) {
     const JetColumn* type = table.Column(u"Type");
     const JetColumn* name = table.Column(u"Name");
     const JetColumn* content = table.Column(u"Lv");
-    if (!id || !parent || !type || !name || !content) return std::nullopt;
+    if (!id || !parent || !type || !name || !content) {
+        file.Damage().brokenRows = true;
+        return std::nullopt;
+    }
     Tree tree{&file, {}};
     table.ForEachRow([&](const JetRow& row) {
         const auto idValue = row.Value(*id);
@@ -151,7 +154,10 @@ std::unique_ptr<Storage> OpenAccessStorage(JetFile& file, const JetCatalog& cata
     auto tree = table ? ReadTree(file, *table) : std::nullopt;
     if (!tree) return nullptr;
     const auto root = std::ranges::find(tree->nodes, kRootName, &Node::name);
-    if (root == tree->nodes.end()) return nullptr;
+    if (root == tree->nodes.end()) {
+        file.Damage().brokenRows |= !tree->nodes.empty();
+        return nullptr;
+    }
     const std::uint32_t rootId = root->id;
     std::ranges::stable_sort(tree->nodes, SortsBefore);
     return std::make_unique<RowStorage>(std::make_shared<const Tree>(std::move(*tree)), rootId);
@@ -161,9 +167,13 @@ std::optional<std::string> JoinAccessObjects(JetFile& file, const JetCatalog& ca
     const auto table = catalog.Table(u"MSysAccessObjects");
     const JetColumn* id = table ? table->Column(u"ID") : nullptr;
     const JetColumn* data = table ? table->Column(u"Data") : nullptr;
+    if (table && (!id || !data)) file.Damage().brokenRows = true;
     if (!id || !data) return std::nullopt;
     const SlicedFile sliced = ReadSlices(file, *table, *id, *data);
-    if (!sliced.hasHead) return std::nullopt;
+    if (!sliced.hasHead) {
+        file.Damage().brokenRows |= !sliced.slices.empty();
+        return std::nullopt;
+    }
     const std::uint64_t most = 2 * std::uint64_t{file.FileBytes()} + kSpareBytes;
     if (sliced.length > most) file.Damage().brokenRows = true;
     std::string joined(std::min(sliced.length, most), '\0');
