@@ -12,7 +12,7 @@ Public Sub Springen(ByVal Wert As Long)
     ' Fortgesetzt _
       GoSub Marke
     MeinGoSub = 5 ' Names that merely end in these letters count too. '! Springen
-    GoSubs = GoSub_1 + GoSub2
+    GoSubs = GoSub_1 + GoSub2: Meingosub = 5
     ÖGoSub 1 '! Springen
     GoSub _ '! Springen
         Ende

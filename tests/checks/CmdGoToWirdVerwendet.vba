@@ -25,7 +25,7 @@ Public Sub Springen(ByVal Wert As Long)
     Debug.Print "GoTo Ende", "'": GoTo Ende '! Springen
     Beep: GoTo Ende: On Error GoTo 0 '! Springen
     MeinGoTo = 5: GoTo_1 = GoTo2: ÖGoTo 1 '! Springen '! Springen
-    On Error GoTo -1
+    On Error GoTo -1: Meingoto = 5
     GoTo _ '! Springen
         Ende
     If x Then On Error GoTo Ende: GoTo Ende '! Springen

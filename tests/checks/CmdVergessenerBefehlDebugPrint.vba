@@ -20,10 +20,10 @@ Public Sub Schreiben()
     Debug.Assert Print1 = PrintÄ
     Debug.PrintAll
     Call Ausgabe.Debug.Print("x") '! Schreiben
-    Printer.Print Debug
+    Printer.Print DebugText
 End Sub
 '= Klasse Ampel
 Public Sub Print_()
 Debug.Print '! Print_
-    Print #1, Tab(5); "Ä"; Spc(3); Debug
+    Print #1, Tab(5); "Ä"; Spc(3); DebugText
 End Sub

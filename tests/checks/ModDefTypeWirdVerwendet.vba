@@ -2,15 +2,16 @@
 Option Explicit
 DefBool B '! Deklarationen "(DefBool)"
 DefByte Y '! Deklarationen "(DefByte)"
-DefInt I-N '! Deklarationen "(DefInt)"
+DefInt I-K '! Deklarationen "(DefInt)"
 DefLng L, Z '! Deklarationen "(DefLng)"
 DefCur C '! Deklarationen "(DefCur)"
 DefSng F: DefDbl D '! Deklarationen "(DefSng)" '! Deklarationen "(DefDbl)"
+DefDec M '! Deklarationen "(DefDec)"
 DefDate T '! Deklarationen "(DefDate)"
 DefStr S ' DefObj O '! Deklarationen "(DefStr)"
 DefObj O: DefVar V: Rem DefBool B '! Deklarationen "(DefObj)" '! Deklarationen "(DefVar)"
 ' DefInt A-Z
-Rem DefInt A-Z
+Rem Alt: DefInt A-Z
 ' Fortgesetzt: _
 DefInt A-Z
 Private Defekt As Long, Undefiniert As String
@@ -19,7 +20,7 @@ Option Explicit: DefStr _ '! Deklarationen "(DefStr)"
     S, _
     T
 DefLng _ '! Deklarationen "(DefLng)"
-    A-Z
+    A-K
 Private Const cText = "x: DefInt A-Z"
 Public Sub Rechnen()
     ' DefInt A-Z
@@ -30,6 +31,9 @@ Private mDefInt As Long, DefIntX As Long
 Private Enum Richtung
     DefLngWert
 End Enum
+DefInt A-Z '! Deklarationen "(DefInt)"
+Public Sub Danach()
+End Sub
 '= Klasse OhneKopf
 Public Sub Nichts()
 End Sub

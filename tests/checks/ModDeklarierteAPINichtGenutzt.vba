@@ -29,7 +29,23 @@ Public Sub Starten()
     Dim Nachbar As Long
     If Öffnen("C:\Temp") > 32 Then Debug.Print Nachbar
     Rem Schließen
+    Debug.Print EigeneAltF, EigeneNeuF, FremdeAltF, FremdeNeuF
+    Debug.Print FreieAltF, FreieNeuF, EigeneAltS, EigeneNeuS
+    Debug.Print FremdeAltS, FremdeNeuS, FreieAltS, FreieNeuS
 End Sub
+'= Modul AlleFormen
+Private Declare Function EigeneAltF Lib "kernel32" () As Long '! Deklarationen "'EigeneAltF': deklariert aber nicht verwendet."
+Private Declare PtrSafe Function EigeneNeuF Lib "kernel32" () As Long '! Deklarationen "'EigeneNeuF': deklariert aber nicht verwendet."
+Public Declare Function FremdeAltF Lib "kernel32" () As Long
+Public Declare PtrSafe Function FremdeNeuF Lib "kernel32" () As Long
+Declare Function FreieAltF Lib "kernel32" () As Long
+Declare PtrSafe Function FreieNeuF Lib "kernel32" () As Long
+Private Declare Sub EigeneAltS Lib "kernel32" () '! Deklarationen "'EigeneAltS': deklariert aber nicht verwendet."
+Private Declare PtrSafe Sub EigeneNeuS Lib "kernel32" () '! Deklarationen "'EigeneNeuS': deklariert aber nicht verwendet."
+Public Declare Sub FremdeAltS Lib "kernel32" ()
+Public Declare PtrSafe Sub FremdeNeuS Lib "kernel32" ()
+Declare Sub FreieAltS Lib "kernel32" ()
+Declare PtrSafe Sub FreieNeuS Lib "kernel32" ()
 '= Klasse Ausgenommen
 ' Zentlor:Ignore: the module is not checked, but what it uses is used.
 Public Sub Lärm()

@@ -21,7 +21,7 @@ Public Sub Rechnen()
     mWert1 = mWert_x + lngmWert + mWertÖ
     mAnzahl = mRest: Debug.Print "mSumme"
     mName = "": mÄlter = mName$
-    ' mOrt fehlt noch
+    ' mOrt fehlt noch, MWERT und msumme schreibt niemand so
     mObergrenze(1) = 2
     lngFern = mFern.Count
     If mAnzahl > 0 Then éTal = 1

@@ -2,11 +2,11 @@
 Option Explicit
 Private mKunden As New Collection '! Deklarationen "Dim ... As New ..."
 Dim mÄnderungen As New Collection, mZähler As Long, mAlte As New Collection '! Deklarationen '! Deklarationen
-Public gFortgesetzt As _
-    New Collection '! Deklarationen
 Private mNew As Collection, mNewName As String
 Private Const cText = " As New Collection"
 ' Dim x As New Collection
+Public gFortgesetzt As _
+    New Collection '! Deklarationen
 Public Sub Füllen()
     Dim colNeu As New Collection '! Füllen
     Static colFest As _

@@ -14,7 +14,7 @@ Private Const cGeteilt _
 Private Const cLinks As Long = 1: Const cRechts = 2 '! Deklarationen "'cRechts'"
 Private Const cKommentar = 1 ' As Long '! Deklarationen "'cKommentar'"
 ' Private Const cAlt = 1
-Rem Private Const cAlt = 1
+Rem Alt: Private Const cAlt = 1
 #Const TESTLAUF = 1
 #If TESTLAUF Then
 Private Const cTest = 1 '! Deklarationen "'cTest'"

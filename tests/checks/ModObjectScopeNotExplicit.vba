@@ -39,7 +39,29 @@ Const cBreite = 8 '! Deklarationen "'cBreite'"
 Const cBreite = 4 '! Deklarationen "'cBreite'"
 #End If
 #Const TEST = 1
+Private Enum Ebene
+    Oben
+End Enum
+Public Type Ort
+    Type As Long
+End Type
+Public gOffen As Long
+Public Const gFest = 1
+Global Const gAlt = 2
 Public Sub Lokal()
     Dim lngLokal As Long
     Const cLokal = 1
 End Sub
+'= Modul Schnittstelle
+Private Declare Function EigeneAltF Lib "kernel32" () As Long
+Private Declare PtrSafe Function EigeneNeuF Lib "kernel32" () As Long
+Public Declare Function FremdeAltF Lib "kernel32" () As Long
+Public Declare PtrSafe Function FremdeNeuF Lib "kernel32" () As Long
+Declare Function FreieAltF Lib "kernel32" () As Long '! Deklarationen "'FreieAltF'"
+Declare PtrSafe Function FreieNeuF Lib "kernel32" () As Long '! Deklarationen "'FreieNeuF'"
+Private Declare Sub EigeneAltS Lib "kernel32" ()
+Private Declare PtrSafe Sub EigeneNeuS Lib "kernel32" ()
+Public Declare Sub FremdeAltS Lib "kernel32" ()
+Public Declare PtrSafe Sub FremdeNeuS Lib "kernel32" ()
+Declare Sub FreieAltS Lib "kernel32" () '! Deklarationen "'FreieAltS'"
+Declare PtrSafe Sub FreieNeuS Lib "kernel32" () '! Deklarationen "'FreieNeuS'"

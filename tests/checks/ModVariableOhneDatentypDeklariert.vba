@@ -32,9 +32,15 @@ Private mGriff As LongPtr
 Private mGriff '! Deklarationen "'mGriff'"
 #End If
 ' Private mAlt
+Rem Alt: Private mAlt
+Private Typen, Enumeration As Long '! Deklarationen "'Typen'"
+Public Typenname, Enumerator As Long, Eventliste '! Deklarationen "'Typenname'" '! Deklarationen "'Eventliste'"
+Private Enumliste: Public Enumwert: Public Events '! Deklarationen "'Enumliste'" '! Deklarationen "'Enumwert'" '! Deklarationen "'Events'"
+Private Constanze: Public Constantin: Global Constanz '! Deklarationen "'Constanze'" '! Deklarationen "'Constantin'" '! Deklarationen "'Constanz'"
 Public Sub Lokal(Wert)
     Dim lngLokal
 End Sub
 '= Klasse Knöpfe
 Private WithEvents mKnopf As CommandButton
 Public Größe, Öffentlich As Long '! Deklarationen "'Größe'"
+Private mRest ' Ende _ '! Deklarationen "'mRest'"

@@ -1,4 +1,4 @@
-'= Modul Funktionen
+'= Klasse Funktionen
 Option Explicit
 Public Function Ohne() '! Ohne "Funktion ohne Datentyp deklariert."
 End Function

@@ -52,6 +52,8 @@ Public Property Set Größe(ByVal Wert As Object) '! Größe
 
 End Property
 Public Sub Einzeiler(): Beep: End Sub '! Einzeiler
+Public Sub LetzteZeile()
+Beep: End Sub
 Public Sub Direktive()
 #If DEBUGMODUS Then
 #End If

@@ -15,7 +15,7 @@ Private Sub FormLoad(Cancel As Integer) '! FormLoad "'Cancel'"
 End Sub
 Public Sub Felder(a() As Long, ByRef b() As Long) '! Felder "'a'"
 End Sub
-Public Sub Standard(Optional a As String = "ByVal b, ByRef c", ByValWert As Long) '! Standard "'a'" '! Standard "'ByValWert'"
+Public Sub Standard(Optional a As String = "ByVal b, ByRef c", Optional ByValWert As Long) '! Standard "'a'" '! Standard "'ByValWert'"
 End Sub
 Public Property Get Größe(Nr As Long) As Long '! Größe "'Nr'"
 End Property

@@ -8,7 +8,7 @@ Public Sub Felder(a() As Long, b(), c) '! Felder "'b'" '! Felder "'c'"
 End Sub
 Public Sub Standard(Optional a = 5, Optional b As String = "x, y", Optional c = "x, y", Optional d As Long) '! Standard "'a'" '! Standard "'c'"
 End Sub
-Public Sub ImText(Optional a = "As ", Optional b = "Als ") '! ImText "'b'"
+Public Sub ImText(Optional a = "As ", Optional b = "Als ", Optional c = cAsText) '! ImText "'b'" '! ImText "'c'"
 End Sub
 Public Sub Klammer(Optional a = ")", Optional b) '! Klammer "'a'"
 End Sub

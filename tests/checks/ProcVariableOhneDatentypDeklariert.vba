@@ -33,6 +33,8 @@ Public Function Umbruch() As Long
     Dim varGriff '! Umbruch "'varGriff'"
 #End If
     Dim varBedingt: Beep '! Umbruch "'varBedingt'"
+Dim varLinks '! Umbruch "'varLinks'"
+Dim varRechts '! Umbruch "'varRechts'"
     Const cOhne = 1
 End Function
 Private Property Get Größe()
