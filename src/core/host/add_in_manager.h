@@ -18,8 +18,9 @@ struct AddInRegistration {
     TextView paneClass;
 };
 
-/// Bit of a load behaviour value: the add-in is loaded at the editor's start.
+/// Load behaviour: the add-in is loaded at the editor's start, or on demand only.
 inline constexpr int kLoadAtStart = 1;
+inline constexpr int kLoadOnDemand = 0;
 
 inline constexpr AddInRegistration kRegistration = {
     u"HKEY_CURRENT_USER\\Software\\Microsoft\\VBA\\VBE\\6.0",
@@ -48,14 +49,14 @@ class AddInManager {
     /// Unloads the add-in. Not while it is busy.
     ~AddInManager();
 
-    /// Writes the registration record; a load behaviour that the user has chosen stays.
+    /// Writes the registration record; a load behaviour that is stored already stays.
     void Register();
     void Unregister();
-    /// The stored load behaviour; 0 if the add-in is not registered or the value is no number.
-    int LoadBehaviour();
-    void SetLoadBehaviour(int value);
+    /// Whether the stored load behaviour has the add-in loaded at the editor's start.
+    bool LoadsAtStart();
+    void SetLoadsAtStart(bool loads);
 
-    /// At the editor's start: loads the add-in if its load behaviour says so.
+    /// At the editor's start: loads the add-in if it is registered so.
     void Start();
     /// Connects the add-in; nothing happens if it is connected. Takes back an unloading that still waits.
     void Load();

@@ -55,12 +55,13 @@ class frm_Optionen {
     void OptionenAnzeigen();
     /// Writes all 45 boxes to the settings store.
     void OptionenSpeichern();
+    /// Shows the explanation at a path below the root of the explanations.
+    void ErlaueuterungAnzeigen(TextView strNode);
 
   private:
     void SetCaptions();
     void SetBox(CheckId id, bool ticked);
     void SetGroup(CheckGroup group, bool ticked);
-    void ShowExplanation(CheckId id);
     void Apply();
 
     Session& session_;

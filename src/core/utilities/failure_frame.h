@@ -5,11 +5,12 @@
 
 #include <stdexcept>
 
+#include "core/utilities/encoding.h"
 #include "core/utilities/text.h"
 
 namespace zentlor {
 
-/// A failure at run time, with the number and the description that the platform gives to its kind.
+/// A failure at run time, with the number and the description (UTF-8) that the platform gives to its kind.
 class RuntimeError : public std::runtime_error {
   public:
     RuntimeError(int errorNumber, std::string_view errorDescription)
@@ -53,8 +54,7 @@ void Frame(FailureReporter& failures, const Routine& routine, Body&& body) {
         failures.Enter(routine);
         body();
     } catch (const std::exception& failure) {
-        const std::string_view what = failure.what();
-        failures.Report(routine, FailureNumber(failure), Text(what.begin(), what.end()));
+        failures.Report(routine, FailureNumber(failure), FromUtf8(failure.what()));
     }
 }
 

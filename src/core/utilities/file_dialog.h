@@ -94,15 +94,15 @@ class FileDialog {
     Text ShowSave();
 
     // The steps of the above, public because each is text work with rules of its own.
-    static std::int16_t CountFiles(FailureReporter& failures, TextView strSelection);
+    /// The NUL-closed names at the start of the text, up to the first empty one.
+    std::int16_t CountFiles(TextView strSelection);
     Text BuildFilter();
     void CheckFlags(TextView intention);
     std::int32_t CurrentFlags() const { return lngFlags_; }
     Text ParseAuswahl(TextView strAuswahl, bool blnInitial);
 
   private:
-    void Class_Initialize();
-    /// The common steps of both file dialogs; False on Cancel.
+    /// The common steps of both file dialogs; False on Cancel. On OK strFileName_ is the buffer as it came back.
     bool ShowFileDialog(TextView intention, TextView defaultTitle, int (FileDialogPlatform::*show)(OPENFILENAME&));
     Text FirstOfSelection(TextView strAuswahl);
     Text NextOfSelection();

@@ -29,7 +29,8 @@ class LinkBox {
     virtual void SetBackColor(int colour) = 0;
     virtual void SetForeColor(int colour) = 0;
     virtual void SetUnderline(bool underline) = 0;
-    virtual void SetMouseIcon(int cursor) = 0;  ///< throws if there is no such cursor
+    /// False if there is no such cursor.
+    virtual bool SetMouseIcon(int cursor) = 0;
     virtual void SetMousePointer(int mode) = 0;
     virtual void SetEnabled(bool enabled) = 0;
     virtual float Width() const = 0;
@@ -46,8 +47,8 @@ void HyperlinkFormatieren(LinkBox& txt, std::optional<int> lngFarbe = {});
 /// The hover effect, at every mouse move that reaches the box. The edges count as inside.
 void HyperlinkMouseMove(LinkBox& txt, float x, float y, std::optional<int> lngFarbeNormal = {},
                         std::optional<int> lngFarbeAktiv = {});
-/// Opens the target by its beginning: "www." and "http://" as an address, "mailto:" as a mail, "App:" as a file. Any
-/// other target, "https://" included, opens nothing.
+/// Opens the target by its beginning: "www.", "http://" and "https://" as an address, "mailto:" as a mail, "App:" as a
+/// file. Any other target opens nothing; capitals count.
 void HyperlinkClick(LinkBox& txt, Shell& shell, std::optional<int> lngFarbeNormal = {});
 /// Opens a file with its application; if there is none, the platform's choice of applications.
 void DateiOeffnen(Shell& shell, TextView strDatei);
