@@ -144,7 +144,7 @@ class DatabaseReader {
         const JetDamage damage = file_.Damage();
         const bool damaged = damage.missingPages || damage.brokenRows || damage.endlessChain;
         const bool nothing = document_.modules.empty() && document_.problems.empty();
-        if (nothing && (damaged || catalog.ModuleCount() > 0)) FailDamaged();
+        if (nothing && (damaged || damage.missingRows || catalog.ModuleCount() > 0)) FailDamaged();
         if (damage.missingPages) {
             Report("\"[%1]\" ist abgeschnitten, es kann Code fehlen; die Datei aus einer Sicherung holen.",
                    "\"[%1]\" is cut off, code may be missing; take the file from a backup.", {path_});

@@ -19,6 +19,7 @@ enum class JetGeneration { Jet3, Jet4, Ace };
 struct JetDamage {
     bool missingPages = false;  ///< the file names pages behind its end: it was cut off
     bool brokenRows = false;    ///< rows, values or definitions that contradict themselves
+    bool missingRows = false;   ///< a table has fewer rows than it says; sound files are known to miscount, too
     bool endlessChain = false;  ///< more was referred to than the file can hold: chains that lead back to themselves
 };
 

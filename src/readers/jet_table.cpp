@@ -20,6 +20,7 @@ constexpr std::uint8_t kFixedFlag = 1;
 
 /// Where the parts of a definition lie in one generation; bytes from the start of the definition or of an entry.
 struct DefinitionLayout {
+    std::uint64_t rowCount;
     std::uint64_t columnCount;
     std::uint64_t indexCount;
     std::uint64_t ownedPages;
@@ -32,8 +33,8 @@ struct DefinitionLayout {
     std::uint64_t fixedOffset;
     std::uint64_t length;
 };
-constexpr DefinitionLayout kJet3Layout{0x19, 0x1F, 0x23, 0x2B, 8, 18, 1, 3, 13, 14, 16};
-constexpr DefinitionLayout kJet4Layout{0x2D, 0x33, 0x37, 0x3F, 12, 25, 5, 7, 15, 21, 23};
+constexpr DefinitionLayout kJet3Layout{0x0C, 0x19, 0x1F, 0x23, 0x2B, 8, 18, 1, 3, 13, 14, 16};
+constexpr DefinitionLayout kJet4Layout{0x10, 0x2D, 0x33, 0x37, 0x3F, 12, 25, 5, 7, 15, 21, 23};
 
 /// The chain of definition pages from `page` on in one piece; empty if one of them is no definition page.
 std::string JoinDefinition(JetFile& file, std::uint32_t page) {
@@ -151,6 +152,7 @@ bool JetTable::ReadColumns(std::string_view definition) {
     const bool jet3 = file_->IsJet3();
     const DefinitionLayout& layout = jet3 ? kJet3Layout : kJet4Layout;
     ownedPages_ = U32At(definition, layout.ownedPages);
+    rowCount_ = U32At(definition, layout.rowCount);
     const std::uint64_t count = U16At(definition, layout.columnCount);
     const std::uint64_t entries = layout.entries + layout.indexSize * U32At(definition, layout.indexCount);
     if (count == 0 || entries + count * layout.entrySize > definition.size()) return false;
@@ -180,8 +182,9 @@ void JetTable::CheckOwnedPages() const {
     if (map && MapNamesPageBehindEnd(*file_, *map)) file_->Damage().missingPages = true;
 }
 
-void JetTable::VisitSlot(const JetSlot& slot, const std::function<void(const JetRow&)>& visit) const {
-    if (slot.hidden) return;
+// True for a row that was there, or should have been.
+bool JetTable::VisitSlot(const JetSlot& slot, const std::function<void(const JetRow&)>& visit) const {
+    if (slot.hidden) return false;
     std::optional<std::string_view> bytes = slot.bytes;
     if (slot.pointer) bytes = file_->Follow(U32At(slot.bytes, 0));
     const auto row = bytes ? JetRow::Parse(*bytes, file_->Generation()) : std::nullopt;
@@ -190,21 +193,21 @@ void JetTable::VisitSlot(const JetSlot& slot, const std::function<void(const Jet
     } else {
         file_->Damage().brokenRows = true;
     }
+    return true;
 }
 
 void JetTable::ForEachRow(const std::function<void(const JetRow&)>& visit) const {
     CheckOwnedPages();
+    std::uint32_t rows = 0;
     for (const std::uint32_t number : file_->DataPages(page_)) {
         const std::string_view page = file_->Page(number);
         for (std::uint32_t row = 0; row < file_->RowCount(page); ++row) {
             const auto slot = file_->Slot(page, row);
-            if (slot) {
-                VisitSlot(*slot, visit);
-            } else {
-                file_->Damage().brokenRows = true;
-            }
+            if (!slot) file_->Damage().brokenRows = true;
+            if (slot && VisitSlot(*slot, visit)) ++rows;
         }
     }
+    if (rows < rowCount_) file_->Damage().missingRows = true;
 }
 
 }  // namespace zentlor::readers

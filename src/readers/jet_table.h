@@ -59,19 +59,21 @@ class JetTable {
     const JetColumn* Column(TextView name) const;
 
     /// Calls `visit` for every row, in the order of the file's pages. Rows that cannot be read are left out and
-    /// reported to the file as damage, and so are data pages that the table owned and that are gone.
+    /// reported to the file as damage, and so are rows and data pages that the table had and that are gone.
     void ForEachRow(const std::function<void(const JetRow&)>& visit) const;
 
   private:
     JetTable(JetFile& file, std::uint32_t page) : file_(&file), page_(page) {}
     bool ReadColumns(std::string_view definition);
-    void VisitSlot(const JetSlot& slot, const std::function<void(const JetRow&)>& visit) const;
+    bool VisitSlot(const JetSlot& slot, const std::function<void(const JetRow&)>& visit) const;
     void CheckOwnedPages() const;
 
     JetFile* file_;
     std::uint32_t page_;
     /// Where the map of the pages lies that the table owns (page << 8 | row).
     std::uint32_t ownedPages_ = 0;
+    /// How many rows the definition says there are.
+    std::uint32_t rowCount_ = 0;
     std::vector<JetColumn> columns_;
 };
 

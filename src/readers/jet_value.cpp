@@ -14,6 +14,8 @@ namespace zentlor::readers {
 namespace {
 
 constexpr std::size_t kHeadBytes = 12;
+/// 255 characters, the most that a text column takes.
+constexpr std::size_t kMostTextBytes = 510;
 constexpr std::uint32_t kInRow = 0x80000000;
 constexpr std::uint32_t kOneRow = 0x40000000;
 constexpr std::uint32_t kLengthMask = 0x3FFFFFFF;
@@ -50,6 +52,7 @@ void AppendChain(std::uint32_t pointer, JetFile& file, std::uint64_t wanted, std
 }  // namespace
 
 Text JetText(std::string_view value, const JetFile& file) {
+    value = value.substr(0, kMostTextBytes);
     if (file.IsJet3()) return DecodeCodePage(value, file.CodePage()).text;
     return value.substr(0, 2) == "\xFF\xFE" ? ExpandCompressedText(value) : FromUtf16Le(value);
 }

@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <algorithm>
+#include <ctime>
 #include <random>
 #include <string>
 
@@ -21,11 +22,11 @@ using readers::ReadError;
 
 constexpr std::size_t kModules = 12;
 
-TestProject ManyModules(std::size_t count = kModules) {
+TestProject ManyModules(std::size_t count = kModules, int lines = 100) {
     TestProject project;
     for (std::size_t i = 0; i < count; ++i) {
         std::string code = "Sub S" + std::to_string(i) + "()\r\n";
-        for (int line = 0; line < 30; ++line) code += "Debug.Print " + std::to_string(line * 7919 + 13) + "\r\n";
+        for (int line = 0; line < lines; ++line) code += "Debug.Print " + std::to_string(line * 7919 + 13) + "\r\n";
         project.modules.push_back(StandardModule(u"Module" + ToText(static_cast<long long>(i)), code + "End Sub\r\n"));
     }
     return project;
@@ -34,16 +35,20 @@ TestProject ManyModules(std::size_t count = kModules) {
 struct Sample {
     const char* why;
     std::string bytes;
+    /// The list of modules comes before the modules, so that a file that was cut off holds some of them.
+    bool listFirst = true;
 };
 
 /// A small database of each layout and format.
 std::vector<Sample> Samples() {
-    const StorageTree tree = WriteAccessTree(ManyModules(), {{u"Order", false, {{"txtName", "", 109}}}});
+    StorageTree tree = WriteAccessTree(ManyModules(), {{u"Order", false, {{"txtName", "", 109}}}});
+    auto& streams = tree.Below(u"VBA").Below(u"VBAProject").Below(u"VBA").streams;
+    std::ranges::stable_partition(streams, [](const auto& stream) { return stream.name == u"dir"; });
     return {
         {"storage, ACE", WriteAccessStorage(tree, {.format = JetFormat::Ace}).bytes},
         {"storage, encoded", WriteAccessStorage(tree, {.pageKey = 0x12345678, .chainBytes = 100}).bytes},
         {"storage, rows elsewhere", WriteAccessStorage(tree, {.rowsBehindPointers = true}).bytes},
-        {"objects", WriteAccessObjects(tree, {}).bytes},
+        {"objects", WriteAccessObjects(tree, {}).bytes, false},
         {"modules", WriteAccessModules(ManyModules(), {.format = JetFormat::Jet3}).bytes},
     };
 }
@@ -62,10 +67,11 @@ Outcome Read(const std::string& bytes, const std::string& why) {
     }
 }
 
+/// The processor's time, since a busy machine tells nothing about the reader.
 double SecondsToRead(const std::string& bytes) {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     Read(bytes, "timed");
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 TEST(HostileDatabase, CutOffAnywhereNeverLooksClean) {
@@ -77,8 +83,18 @@ TEST(HostileDatabase, CutOffAnywhereNeverLooksClean) {
             EXPECT_NE(outcome, Outcome::Nothing) << sample.why << ", cut at " << size;
             if (outcome == Outcome::SomeModules) ++partial;
         }
-        // In these samples the definitions come last, or the project's list of modules does.
-        EXPECT_LT(partial, sample.bytes.size() / 512) << sample.why;
+        EXPECT_GE(partial, sample.listFirst ? 4u : 0u) << sample.why << ": what is readable is kept";
+    }
+}
+
+TEST(HostileDatabase, WithoutOneOfItsPagesNeverLooksClean) {
+    for (const Sample& sample : Samples()) {
+        const std::size_t pageSize = sample.bytes[0x14] == 0 ? 2048 : 4096;
+        for (std::size_t page = 2 * pageSize; page < sample.bytes.size(); page += pageSize) {
+            std::string bytes = sample.bytes;
+            bytes.replace(page, pageSize, pageSize, '\0');
+            EXPECT_NE(Read(bytes, sample.why), Outcome::Nothing) << sample.why << ", page at " << page;
+        }
     }
 }
 
@@ -171,7 +187,7 @@ TEST(HostileDatabase, EndsSoonWhateverItsRowsClaim) {
 
 // Ten thousand modules that are found by name, and ten thousand that are all the same stream.
 TEST(HostileDatabase, EndsSoonWithTenThousandModules) {
-    TestProject project = ManyModules(10'000);
+    TestProject project = ManyModules(10'000, 2);
     EXPECT_LT(SecondsToRead(WriteAccessStorage(WriteAccessTree(project), {.format = JetFormat::Ace}).bytes), 2.0);
     StorageTree tree = WriteAccessTree(ManyModules(1));
     for (TestModule& module : project.modules) module.streamName = u"Module0";

@@ -1,6 +1,5 @@
 // Pages are numbered as they are made: the header, an empty page, the catalog's definition, the maps of owned pages,
-// and then for each table its long values, its data pages and its definition. The catalog itself is written last, when
-// it is known where everything lies.
+// the definitions of the tables, the catalog's data, and then the data of each table with its long values in between.
 
 #include "support/documents/jet_writer.h"
 
@@ -45,14 +44,11 @@ class Writer {
                               {"LvProp", kJetOle, false, 0}},
                              {}};
         AddObject(catalog, "MSysObjects", 1, kCatalogPage, {});
-        for (const JetTableSpec& table : tables) {
-            const std::uint32_t definition = NewPage();
-            WriteTable(table, definition);
-            AddObject(catalog, table.name, 1, definition, {});
-        }
+        for (const JetTableSpec& table : tables) AddObject(catalog, table.name, 1, NewPage(), {});
         for (const JetCatalogEntry& object : objects)
             AddObject(catalog, object.name, object.type, 0, object.properties);
         WriteTable(catalog, kCatalogPage);
+        for (std::uint32_t i = 0; i < tables.size(); ++i) WriteTable(tables[i], kMapsPage + 1 + i);
         WriteHeader();
         if (options_.pageKey != 0) Encode();
         return {std::move(bytes_), places_};
