@@ -219,9 +219,12 @@ class Scanner {
     }
 
     void ScanBrackets() {
+        if (at_ < unclosedUntil_) return Add(TokenKind::Unknown, 1);
         std::size_t end = at_ + 1;
         while (end < text_.size() && text_[end] != u'\n' && text_[end] != u']') ++end;
-        if (CharacterAt(end) != u']' || end == at_ + 1) return Add(TokenKind::Unknown, 1);
+        const bool isClosed = end < text_.size() && text_[end] == u']';
+        if (!isClosed) unclosedUntil_ = end;
+        if (!isClosed || end == at_ + 1) return Add(TokenKind::Unknown, 1);
         const bool isMember = previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang);
         Add(TokenKind::Name, end + 1 - at_, 0, static_cast<std::uint8_t>(kBracketed | (isMember ? kMember : 0)));
     }
@@ -370,7 +373,8 @@ class Scanner {
     TextView text_;
     Tokens& tokens_;
     std::size_t at_ = 0;
-    Token previous_;  // The last token that is no continuation; at the start an `EndOfText` of length 0.
+    std::size_t unclosedUntil_ = 0;  // no "]" stands in front of this place
+    Token previous_;                 // The last token that is no continuation; at the start an `EndOfText` of length 0.
 };
 
 }  // namespace
