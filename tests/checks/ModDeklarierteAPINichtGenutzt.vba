@@ -46,6 +46,15 @@ Public Declare Sub FremdeAltS Lib "kernel32" ()
 Public Declare PtrSafe Sub FremdeNeuS Lib "kernel32" ()
 Declare Sub FreieAltS Lib "kernel32" ()
 Declare PtrSafe Sub FreieNeuS Lib "kernel32" ()
+'= Modul AlleFormenUngenutzt
+Public Declare Function StillOffenAltF Lib "kernel32" () As Long '! Deklarationen "'StillOffenAltF'"
+Public Declare PtrSafe Function StillOffenNeuF Lib "kernel32" () As Long '! Deklarationen "'StillOffenNeuF'"
+Declare Function StillBloßAltF Lib "kernel32" () As Long '! Deklarationen "'StillBloßAltF'"
+Declare PtrSafe Function StillBloßNeuF Lib "kernel32" () As Long '! Deklarationen "'StillBloßNeuF'"
+Public Declare Sub StillOffenAltS Lib "kernel32" () '! Deklarationen "'StillOffenAltS'"
+Public Declare PtrSafe Sub StillOffenNeuS Lib "kernel32" () '! Deklarationen "'StillOffenNeuS'"
+Declare Sub StillBloßAltS Lib "kernel32" () '! Deklarationen "'StillBloßAltS'"
+Declare PtrSafe Sub StillBloßNeuS Lib "kernel32" () '! Deklarationen "'StillBloßNeuS'"
 '= Klasse Ausgenommen
 ' Zentlor:Ignore: the module is not checked, but what it uses is used.
 Public Sub Lärm()

@@ -35,6 +35,10 @@ Public Sub Zeigen()
     Debug.Print "Größe", Klein, "Gebiet"
 End Sub
 '= Klasse Karte
+Private Enum Größe
+    Winzig
+End Enum
+Private mGröße As Größe
 Private mZustand As Zustand
 Private mGebiet_Alt As Long
 ' Richtung1 and Richtung_ are other words.

@@ -36,5 +36,6 @@ Private mDrüben(gDrüben) As Long
 ' gNirgends2, gKommentar
 Public Sub Zeigen()
     Const cPrivat = 7
-    Debug.Print cPrivat: Rem gÜberall
+    Const cListe = 8 ' a private namesake elsewhere is not meant
+    Debug.Print cPrivat, cListe: Rem gÜberall
 End Sub

@@ -40,6 +40,8 @@ Private mNeben As Long
 Public Sub Lesen()
     Debug.Print gKunde ' gKommentar
     Debug.Print mNeben!Feld
+    Dim mWert As Long, mOrt As String
+    mOrt = mWert
     ' gKommentar _
       mNah
 End Sub
