@@ -9,7 +9,6 @@ namespace zentlor {
 namespace {
 
 constexpr TextView kModule = u"frm_Optionen";
-constexpr TextView kRoot = u"Erlaeuterungen";
 
 }  // namespace
 
@@ -23,7 +22,7 @@ void Explanations::XMLEinlesen(TextView folder) {
         document->SetValidateOnParse(true);
         document->SetResolveExternals(false);
         if (document->Load(path)) {
-            objErlaeuterungen_ = document->SelectSingleNode(kRoot);
+            objErlaeuterungen_ = document->SelectSingleNode(kExplanationsRoot);
         } else {
             session_.host().boxes.Show(document->ParseErrorReason(), BoxIcon::Exclamation);
         }

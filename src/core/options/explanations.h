@@ -10,6 +10,7 @@
 namespace zentlor {
 
 inline constexpr TextView kExplanationsFile = u"Erlaeuterungen.xml";
+inline constexpr TextView kExplanationsRoot = u"Erlaeuterungen";
 
 /// An element of an XML document, which it keeps alive.
 class XmlElement {
