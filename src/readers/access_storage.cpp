@@ -68,9 +68,9 @@ class RowStorage : public Storage {
   private:
     std::vector<Text> Names(bool storages) const {
         std::vector<Text> names;
-        const auto children = std::ranges::equal_range(tree_->nodes, id_, {}, &Node::parent);
-        for (const Node& node : children) {
-            if (node.isStorage == storages && node.id != id_) names.push_back(node.name);
+        auto node = std::ranges::lower_bound(tree_->nodes, id_, {}, &Node::parent);
+        for (; node != tree_->nodes.end() && node->parent == id_; ++node) {
+            if (node->isStorage == storages && node->id != id_) names.push_back(node->name);
         }
         return names;
     }
