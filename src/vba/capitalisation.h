@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "vba/name_table.h"
+#include "vba/spelling_table.h"
 #include "vba/token.h"
 
 namespace zentlor::vba {
@@ -32,7 +32,7 @@ class Capitalisation {
     bool Varies(std::uint32_t number) const { return names_.Varies(number); }
 
   private:
-    NameTable names_;
+    SpellingTable names_;
 };
 
 /// True for tokens whose capitalisation the project decides: names without brackets that are no fixed word of VBA, and

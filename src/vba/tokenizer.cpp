@@ -138,7 +138,7 @@ class Scanner {
         if (CharacterAt(place) == u'-') return true;
         place = SkipBlanks(place);
         const char16_t c = CharacterAt(place);
-        return HasTraitAt(place, kNamePart) || c == u'(' || c == u'.' || c == u'[';
+        return HasTraitAt(place, kNamePart) || c == u'(' || c == u'.' || c == u'[' || c == u'?';
     }
 
     void ScanNumber() {

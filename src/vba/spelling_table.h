@@ -15,10 +15,10 @@ namespace zentlor::vba {
 /// Where a capitalisation comes from. The higher rank wins; of equal ranks the first one stays.
 enum class NameRank : std::uint8_t { Met, Library, Declared };
 
-class NameTable {
+class SpellingTable {
   public:
     /// An empty table.
-    NameTable();
+    SpellingTable();
 
     /// Takes `name`, without brackets and type character, in the capitalisation in which it stands. Copies its letters.
     /// Returns the name's number, the same for every capitalisation.

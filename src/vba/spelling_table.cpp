@@ -2,7 +2,7 @@
 // from capitals; names with other letters are folded first. The spelling that a name has in the table is compared
 // first, since it is nearly always the one that was asked for.
 
-#include "vba/name_table.h"
+#include "vba/spelling_table.h"
 
 #include <algorithm>
 #include <cstring>
@@ -58,9 +58,9 @@ std::uint64_t HashName(TextView name) {
 
 }  // namespace
 
-NameTable::NameTable() : slots_(kFirstSlots) {}
+SpellingTable::SpellingTable() : slots_(kFirstSlots) {}
 
-std::uint32_t NameTable::Add(TextView name, NameRank rank) {
+std::uint32_t SpellingTable::Add(TextView name, NameRank rank) {
     const std::uint64_t hash = HashName(name);
     const std::size_t slot = FindSlot(name, hash);
     if (slots_[slot] == 0) {
@@ -81,12 +81,12 @@ std::uint32_t NameTable::Add(TextView name, NameRank rank) {
     return number;
 }
 
-bool NameTable::Holds(TextView name) const {
+bool SpellingTable::Holds(TextView name) const {
     return slots_[FindSlot(name, HashName(name))] != 0;
 }
 
 // The slot of the name, or the free one where it belongs.
-std::size_t NameTable::FindSlot(TextView name, std::uint64_t hash) const {
+std::size_t SpellingTable::FindSlot(TextView name, std::uint64_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
     for (; slots_[slot] != 0; slot = (slot + 1) & mask) {
@@ -96,7 +96,7 @@ std::size_t NameTable::FindSlot(TextView name, std::uint64_t hash) const {
     return slot;
 }
 
-void NameTable::Grow() {
+void SpellingTable::Grow() {
     std::vector<std::uint32_t> larger(slots_.size() * 2);
     const std::size_t mask = larger.size() - 1;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
@@ -108,7 +108,7 @@ void NameTable::Grow() {
 }
 
 // The letters are kept in their narrow form: the editor turns full-width letters into ASCII ones.
-TextView NameTable::Keep(TextView name) {
+TextView SpellingTable::Keep(TextView name) {
     if (blocks_.empty() || free_ < name.size()) {
         const std::size_t length = std::max(kBlockLength, name.size());
         blocks_.push_back(std::make_unique<char16_t[]>(length));

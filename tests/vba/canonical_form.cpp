@@ -1,0 +1,25 @@
+#include "canonical_form.h"
+
+#include "vba/canonical.h"
+#include "vba/tokenizer.h"
+
+namespace zentlor::test {
+
+std::vector<Text> CanonicalForms(const std::vector<Text>& modules, const std::vector<TextView>& components) {
+    vba::Canonicaliser canonicaliser;
+    std::vector<vba::Tokens> tokens;
+    for (TextView component : components) canonicaliser.LearnName(component);
+    for (const Text& module : modules) {
+        tokens.push_back(vba::Tokenize(module));
+        canonicaliser.Learn(tokens.back(), module);
+    }
+    std::vector<Text> forms = modules;
+    for (std::size_t i = 0; i < modules.size(); ++i) canonicaliser.Write(i, tokens[i], modules[i], forms[i]);
+    return forms;
+}
+
+Text CanonicalForm(TextView code, const std::vector<TextView>& components) {
+    return CanonicalForms({Text(code)}, components).front();
+}
+
+}  // namespace zentlor::test
