@@ -63,8 +63,8 @@ bool BlockStack::Forgive(BlockKind kind) {
     return true;
 }
 
-void BlockStack::ForgiveOneOfEach() {
-    for (int& count : forgiven_) ++count;
+void BlockStack::DropInnermost() {
+    if (!blocks_.empty()) Drop();
 }
 
 }  // namespace zentlor::vba

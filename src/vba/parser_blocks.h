@@ -42,8 +42,8 @@ class BlockStack {
     const Token* CloseAll();
     /// True if a closing word without its block is the consequence of something noted before.
     bool Forgive(BlockKind kind);
-    /// From now on a closing word that finds no block is forgiven once, whatever its kind.
-    void ForgiveOneOfEach();
+    /// Drops the innermost block, if there is one, because something that was noted stands for its closing word.
+    void DropInnermost();
 
   private:
     bool Drop();

@@ -97,7 +97,8 @@ class BranchSelector {
 
     void Note(Fault fault, const Token& directive) {
         if (faults_.size() >= kMaximumSyntaxErrors) return;
-        faults_.push_back({directive.offset, fault, Text(TextOf(directive, text_)), 0});
+        const bool isEnd = directive.keyword() == Keyword::End;
+        faults_.push_back({directive.offset, fault, Text(isEnd ? u"#End If" : TextOf(directive, text_)), 0});
     }
 
     TextView text_;

@@ -3,23 +3,32 @@
 #include "vba/parser_statements.h"
 
 namespace zentlor::vba {
+namespace {
+
+bool IsLoop(BlockKind kind) {
+    return kind == BlockKind::For || kind == BlockKind::Do || kind == BlockKind::While;
+}
+
+}  // namespace
 
 bool StatementParser::ParseIf() {
     const Token& opener = Here();
+    const bool isBehindElse = Behind().Is(Keyword::Else);
     Advance();
-    if (ParseExpression()) return ParseThen(opener);
+    if (ParseExpression()) return ParseThen(opener, isBehindElse);
     blocks_.Open({.kind = BlockKind::If, .opener = &opener, .mayStayOpen = true});
     return false;
 }
 
-bool StatementParser::ParseThen(const Token& opener) {
+bool StatementParser::ParseThen(const Token& opener, bool isBehindElse) {
     const bool hasThen = Accept(Keyword::Then);
     if (!hasThen && !Here().Is(Keyword::GoTo)) {
         blocks_.Open({.kind = BlockKind::If, .opener = &opener, .mayStayOpen = true});
         return FailExpecting(Fault::Then);
     }
     if (AtLineEnd() || Here().Is(Operator::Colon)) {
-        const bool isUnclear = !AtLineEnd() || lineIfs_ > 0;
+        // `Else If` may have been meant as `ElseIf`, without an end of its own.
+        const bool isUnclear = !AtLineEnd() || lineIfs_ > 0 || isBehindElse;
         blocks_.Open({.kind = BlockKind::If, .opener = &opener, .mayStayOpen = isUnclear});
         return true;
     }
@@ -54,8 +63,9 @@ bool StatementParser::EnterElse(const Token& word) {
     Advance();
     const BlockStack::Search search = blocks_.Find(BlockKind::If);
     if (!search.isFound) {
+        const bool isConsequence = isBlocksBroken_;
         isBlocksBroken_ = true;
-        return Fail(Fault::ElseWithoutIf, word, Quote(word));
+        return !isConsequence && Fail(Fault::ElseWithoutIf, word, Quote(word));
     }
     if (search.notClosed != nullptr) {
         isBlocksBroken_ = true;
@@ -101,6 +111,9 @@ bool StatementParser::EndBlock(BlockKind kind, const Token& closer, TextView wor
         if (blocks_.Forgive(kind)) return true;
         isBlocksBroken_ = true;
         Fail(Fault::CloserWithoutOpener, closer, words);
+        // `While ... Loop`: the wrong word closes the loop all the same.
+        const Block* innermost = blocks_.Innermost();
+        if (IsLoop(kind) && innermost != nullptr && IsLoop(innermost->kind)) blocks_.DropInnermost();
         return true;
     }
     if (search.notClosed != nullptr) {
@@ -149,8 +162,9 @@ bool StatementParser::CloseFor(const Token& next, TextView variable) {
     const Block* block = blocks_.Innermost();
     const bool isComparable =
         block != nullptr && block->kind == BlockKind::For && block->variable != nullptr && !variable.empty();
-    if (isComparable && !EqualIgnoringCase(NameText(*block->variable), variable)) {
+    if (isComparable && !isBlocksBroken_ && !EqualIgnoringCase(NameText(*block->variable), variable)) {
         Fail(Fault::NextWrongVariable, next, variable, block->opener->offset);
+        isBlocksBroken_ = true;
     }
     return EndBlock(BlockKind::For, next, u"Next");
 }
@@ -196,8 +210,9 @@ bool StatementParser::ParseCase() {
     Advance();
     const BlockStack::Search search = blocks_.Find(BlockKind::Select);
     if (!search.isFound) {
+        const bool isConsequence = isBlocksBroken_;
         isBlocksBroken_ = true;
-        return Fail(Fault::CaseWithoutSelect, word);
+        return !isConsequence && Fail(Fault::CaseWithoutSelect, word);
     }
     if (search.notClosed != nullptr) {
         isBlocksBroken_ = true;

@@ -3,44 +3,13 @@
 #include "vba/parser_declarations.h"
 
 namespace zentlor::vba {
-namespace {
-
-// Words that came to the language late or for other hosts: older code uses them as names.
-bool IsToleratedName(Keyword keyword) {
-    switch (keyword) {
-        case Keyword::DefBool:
-        case Keyword::DefByte:
-        case Keyword::DefDec:
-        case Keyword::DefLngLng:
-        case Keyword::DefLngPtr:
-        case Keyword::DefObj:
-        case Keyword::EndIf:
-        case Keyword::Event:
-        case Keyword::Friend:
-        case Keyword::Global:
-        case Keyword::Implements:
-        case Keyword::LongLong:
-        case Keyword::LongPtr:
-        case Keyword::Preserve:
-        case Keyword::RaiseEvent:
-        case Keyword::WithEvents:
-            return true;
-        default:
-            return false;
-    }
-}
-
-}  // namespace
-
 DeclarationParser::DeclarationParser(TextView text, const Tokens& tokens, FoundFaults& faults)
     : ExpressionParser(text, tokens, faults), moduleNames_(text), typeNames_(text), locals_(text), members_(text) {}
 
 bool DeclarationParser::ParseDeclaredName() {
     const Token& token = Here();
-    if (token.Is(TokenKind::Keyword) && !IsToleratedName(token.keyword())) {
-        return Fail(Fault::ReservedName, token, Quote(token));
-    }
-    if (!token.IsWord()) return FailExpecting(Fault::Name);
+    if (token.Is(TokenKind::Keyword)) return Fail(Fault::ReservedName, token, Quote(token));
+    if (!token.Is(TokenKind::Name)) return FailExpecting(Fault::Name);
     Advance();
     return true;
 }
@@ -146,7 +115,7 @@ void DeclarationParser::Declare(Scope scope, const Token& name) {
 }
 
 void DeclarationParser::DeclareInModule(const Token& name, std::uint32_t kinds) {
-    NameTable::Entry* entry = moduleNames_.Enter(name, kinds);
+    ScopeNames::Entry* entry = moduleNames_.Enter(name, kinds);
     if (entry == nullptr) return;
     const bool isOtherSide = ((entry->kinds | kinds) & kAlone) == 0 && (entry->kinds & kinds) == 0;
     if (isOtherSide) {
@@ -157,13 +126,13 @@ void DeclarationParser::DeclareInModule(const Token& name, std::uint32_t kinds) 
 }
 
 void DeclarationParser::DeclareInProcedure(const Token& name) {
-    const NameTable::Entry* entry = locals_.Enter(name);
+    const ScopeNames::Entry* entry = locals_.Enter(name);
     if (entry == nullptr || HasOtherTypeCharacter(name, *entry->token)) return;
     Fail(Fault::DuplicateLocal, name, NameText(name), entry->token->offset);
 }
 
 void DeclarationParser::DeclareMember(const Token& name) {
-    const NameTable::Entry* entry = members_.Enter(name);
+    const ScopeNames::Entry* entry = members_.Enter(name);
     if (entry != nullptr) Fail(Fault::DuplicateMember, name, NameText(name), entry->token->offset);
 }
 

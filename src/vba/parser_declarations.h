@@ -42,10 +42,10 @@ class DeclarationParser : protected ExpressionParser {
     static constexpr std::uint32_t kPropertySet = 4;
     static constexpr std::uint32_t kAlone = 8;
 
-    NameTable moduleNames_;
-    NameTable typeNames_;
-    NameTable locals_;
-    NameTable members_;
+    ScopeNames moduleNames_;
+    ScopeNames typeNames_;
+    ScopeNames locals_;
+    ScopeNames members_;
 
     ~DeclarationParser() = default;
 

@@ -349,7 +349,7 @@ bool ModuleParser::ParseMemberListStart(Place place) {
     Advance();
     if (!Here().IsWord()) return FailExpecting(Fault::Name);
     listName_ = &Here();
-    const NameTable::Entry* entry = typeNames_.Enter(Here());
+    const ScopeNames::Entry* entry = typeNames_.Enter(Here());
     if (entry != nullptr) Fail(Fault::DuplicateName, Here(), NameText(Here()), entry->token->offset);
     Advance();
     members_.Clear();

@@ -16,9 +16,9 @@ std::uint32_t HashOf(TextView name) {
 
 }  // namespace
 
-NameTable::NameTable(TextView text) : text_(text), entries_(kFirstSize) {}
+ScopeNames::ScopeNames(TextView text) : text_(text), entries_(kFirstSize) {}
 
-NameTable::Entry* NameTable::Slot(TextView name, std::uint32_t hash) {
+ScopeNames::Entry* ScopeNames::Slot(TextView name, std::uint32_t hash) {
     const std::size_t mask = entries_.size() - 1;
     for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
         Entry& entry = entries_[i];
@@ -27,12 +27,12 @@ NameTable::Entry* NameTable::Slot(TextView name, std::uint32_t hash) {
     }
 }
 
-NameTable::Entry* NameTable::Find(TextView name) {
+ScopeNames::Entry* ScopeNames::Find(TextView name) {
     Entry* entry = Slot(name, HashOf(name));
     return IsUsed(*entry) ? entry : nullptr;
 }
 
-NameTable::Entry* NameTable::Enter(const Token& token, std::uint32_t kinds) {
+ScopeNames::Entry* ScopeNames::Enter(const Token& token, std::uint32_t kinds) {
     const TextView name = NameOf(token, text_);
     const std::uint32_t hash = HashOf(name);
     Entry* entry = Slot(name, hash);
@@ -42,12 +42,12 @@ NameTable::Entry* NameTable::Enter(const Token& token, std::uint32_t kinds) {
     return nullptr;
 }
 
-void NameTable::Clear() {
+void ScopeNames::Clear() {
     ++generation_;
     count_ = 0;
 }
 
-void NameTable::Grow() {
+void ScopeNames::Grow() {
     std::vector<Entry> old(entries_.size() * 2);
     old.swap(entries_);
     for (const Entry& entry : old) {

@@ -11,7 +11,7 @@
 
 namespace zentlor::vba {
 
-class NameTable {
+class ScopeNames {
   public:
     struct Entry {
         TextView name;
@@ -21,7 +21,7 @@ class NameTable {
         std::uint32_t generation = 0;
     };
 
-    explicit NameTable(TextView text);
+    explicit ScopeNames(TextView text);
 
     /// The entry of that name, or null.
     Entry* Find(TextView name);

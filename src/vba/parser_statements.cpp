@@ -34,13 +34,13 @@ void StatementParser::DropBody() {
 
 void StatementParser::ParseLabelDefinition() {
     if (Here().Is(TokenKind::Integer)) {
-        const NameTable::Entry* entry = labels_.Enter(Here());
+        const ScopeNames::Entry* entry = labels_.Enter(Here());
         if (entry != nullptr) Fail(Fault::DuplicateLabel, Here(), Quote(Here()), entry->token->offset);
         Advance();
         Accept(Operator::Colon);
     }
     if (!Here().Is(TokenKind::Name) || !Ahead().Is(Operator::Colon)) return;
-    const NameTable::Entry* entry = labels_.Enter(Here());
+    const ScopeNames::Entry* entry = labels_.Enter(Here());
     // `DoEvents:` and `Beep :` are rather calls, and calls may be repeated.
     const bool isSurelyLabel = Here().keyword() == Keyword::None && Here().End() == Ahead().offset;
     if (entry != nullptr && isSurelyLabel) {
@@ -63,7 +63,7 @@ bool StatementParser::ParseStatement() {
     const bool isRead = Here().Is(TokenKind::Keyword) ? ParseKeywordStatement() : ParseNameStatement();
     if (isRead && (bodyFollows_ || AtStatementEnd())) return true;
     if (isRead) FailExpecting(Fault::StatementEnd);
-    if (startsWithEnd) blocks_.ForgiveOneOfEach();
+    if (startsWithEnd) blocks_.DropInnermost();
     SkipToStatementEnd();
     return false;
 }
@@ -189,7 +189,7 @@ bool StatementParser::ParseCallOrAssignment() {
 bool StatementParser::ParseRestOfCall(const Operand& head) {
     if (AtStatementEnd()) {
         // A call without `Call` has no parentheses around its list.
-        return !head.endsInParentheses || head.arguments < 2 || FailExpecting(Fault::Assignment);
+        return !head.endsInParentheses || head.arguments < 2 || FailExpecting(Fault::AssignmentOrCall);
     }
     if (head.lastName->Is(Keyword::Name) && Here().Is(Keyword::As)) {
         Advance();

@@ -65,7 +65,7 @@ class StatementParser : protected DeclarationParser {
 
     // parser_control.cpp
     bool ParseIf();
-    bool ParseThen(const Token& opener);
+    bool ParseThen(const Token& opener, bool isBehindElse);
     bool ParseElseIf();
     bool ParseElse();
     bool EnterElse(const Token& word);
@@ -85,7 +85,7 @@ class StatementParser : protected DeclarationParser {
     bool EndBlock(BlockKind kind, const Token& closer, TextView words);
 
     BlockStack blocks_;
-    NameTable labels_;
+    ScopeNames labels_;
     std::vector<const Token*> labelUses_;
     ProcedureKind procedure_ = ProcedureKind::Sub;
     int lineIfs_ = 0;              ///< Single-line `If`s open in this line.

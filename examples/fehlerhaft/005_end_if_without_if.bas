@@ -1,0 +1,7 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim lngAnzahl As Long
+    lngAnzahl = 1
+    End If
+End Sub

@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim lngAnzahl As Long
+    If lngAnzahl = 1 Then lngAnzahl = 2: End If
+End Sub

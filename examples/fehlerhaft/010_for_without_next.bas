@@ -1,0 +1,7 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim i As Long
+    For i = 1 To 10
+        Debug.Print i
+End Sub

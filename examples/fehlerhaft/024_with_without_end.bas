@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    With CurrentDb
+        .Execute "DELETE FROM tblImport"
+End Sub

@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    CurrentDb.Execute "DELETE FROM tblImport"
+    End With
+End Sub

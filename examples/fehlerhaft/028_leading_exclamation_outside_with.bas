@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim strName As String
+    strName = !Nachname
+End Sub

@@ -1,0 +1,4 @@
+Option Explicit
+
+Public Sub Laden()
+    Debug.Print "laden"

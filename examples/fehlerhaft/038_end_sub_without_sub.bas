@@ -1,0 +1,7 @@
+Option Explicit
+
+Public Sub Laden()
+    Debug.Print "laden"
+End Sub
+
+End Sub

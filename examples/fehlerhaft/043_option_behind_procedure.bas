@@ -1,0 +1,5 @@
+Public Sub Laden()
+    Debug.Print "laden"
+End Sub
+
+Option Explicit

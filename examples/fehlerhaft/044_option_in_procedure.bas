@@ -1,0 +1,4 @@
+Public Sub Pruefen()
+    Option Explicit
+    Debug.Print "laden"
+End Sub

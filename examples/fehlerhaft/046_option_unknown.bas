@@ -1,0 +1,5 @@
+Option Strict On
+
+Public Sub Laden()
+    Debug.Print "laden"
+End Sub

@@ -1,0 +1,4 @@
+Option Explicit
+
+Private mlngAnzahl As Long
+Private mstrName As String, mlngAnzahl As Integer

@@ -1,0 +1,9 @@
+Option Explicit
+
+Private Type TPunkt
+    X As Long
+    Y As Long
+
+Public Sub Laden()
+    Debug.Print "laden"
+End Sub

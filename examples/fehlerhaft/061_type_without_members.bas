@@ -1,0 +1,4 @@
+Option Explicit
+
+Private Type TLeer
+End Type

@@ -1,0 +1,6 @@
+Option Explicit
+
+Private Type TPunkt
+    X Long
+    Y As Long
+End Type

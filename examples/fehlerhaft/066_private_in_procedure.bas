@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Private lngAnzahl As Long
+    lngAnzahl = 1
+End Sub

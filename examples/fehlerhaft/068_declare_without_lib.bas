@@ -1,0 +1,3 @@
+Option Explicit
+
+Private Declare PtrSafe Sub Sleep "kernel32" (ByVal lngDauer As Long)

@@ -1,0 +1,3 @@
+Option Explicit
+
+Private Declare PtrSafe Sub Sleep Lib kernel32 (ByVal lngDauer As Long)

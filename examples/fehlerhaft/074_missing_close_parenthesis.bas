@@ -1,0 +1,7 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim strText As String
+    strText = Left(Trim("abc", 2)
+    Debug.Print strText
+End Sub

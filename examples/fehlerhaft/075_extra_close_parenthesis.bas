@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim strText As String
+    strText = Left(Trim("abc"), 2))
+End Sub

@@ -1,0 +1,5 @@
+Option Explicit
+
+Public Sub Pruefen()
+    MsgBox ("Fertig", vbInformation)
+End Sub

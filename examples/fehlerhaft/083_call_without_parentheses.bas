@@ -1,0 +1,5 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Call Speichern "Datei"
+End Sub

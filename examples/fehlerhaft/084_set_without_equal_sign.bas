@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim db As Object
+    Set db CurrentDb
+End Sub

@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim lngWert As Long
+    lngWert = 3 | 4
+End Sub

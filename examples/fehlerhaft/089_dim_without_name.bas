@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim As Long
+    Debug.Print 1
+End Sub

@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim lngWert Long
+    lngWert = 1
+End Sub

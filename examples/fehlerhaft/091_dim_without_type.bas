@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim lngWert As
+    lngWert = 1
+End Sub

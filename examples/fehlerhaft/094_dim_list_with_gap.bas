@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim lngWert As Long, , strText As String
+    Debug.Print lngWert
+End Sub

@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Const cAnzahl As Long
+    Debug.Print cAnzahl
+End Sub

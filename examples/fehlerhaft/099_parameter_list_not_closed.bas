@@ -1,0 +1,5 @@
+Option Explicit
+
+Public Sub Pruefen(ByVal lngWert As Long
+    Debug.Print lngWert
+End Sub

@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    On Error Resume
+    Debug.Print 1
+End Sub

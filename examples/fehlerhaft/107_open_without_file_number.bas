@@ -1,0 +1,6 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Open "C:\Daten\Liste.txt" For Input
+    Close
+End Sub

@@ -1,0 +1,5 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Name "alt.txt" "neu.txt"
+End Sub
