@@ -148,7 +148,11 @@ StrippedCode StripAttributes(TextView text) {
         inside = Continues(line);
         if (hiding) {
             result.hasAttributes = true;
-            if (result.fileLines.empty()) AddLine(line, result.header);
+            if (result.fileLines.empty()) {
+                AddLine(line, result.header);
+            } else {
+                result.innerAttributes.push_back({static_cast<std::uint32_t>(result.fileLines.size()), Text(line)});
+            }
             continue;
         }
         AddLine(line, result.code);

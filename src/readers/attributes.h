@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/utilities/text.h"
+#include "readers/document.h"
 
 namespace zentlor::readers {
 
@@ -24,6 +25,8 @@ struct StrippedCode {
     std::vector<std::uint32_t> fileLines;
     /// The header and the `Attribute` lines at the top, ended by LF.
     Text header;
+    /// The `Attribute` lines between the lines of the code.
+    std::vector<HiddenLine> innerAttributes;
     ExportHeader kind = ExportHeader::None;
     /// Whether the text held `Attribute` lines.
     bool hasAttributes = false;

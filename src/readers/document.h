@@ -15,6 +15,12 @@ namespace zentlor::readers {
 /// The editor's numbers for the kinds of component (vbext_ComponentType).
 enum class ModuleType { Standard = 1, Class = 2, Form = 3, Document = 100 };
 
+/// A line that the editor hides, between two lines of the code.
+struct HiddenLine {
+    std::uint32_t linesBefore = 0;  ///< lines of the code in front of it
+    Text text;
+};
+
 /// One module as the editor shows it.
 struct SourceModule {
     Text name;
@@ -25,9 +31,10 @@ struct SourceModule {
     Text code;
     /// For every line of `code` the line of the file that it was read from, counted from 1. Empty: the two are equal.
     std::vector<std::uint32_t> fileLines;
-    /// What the file held in front of the code and between its lines, as far as an export has to give it back:
-    /// the header (`VERSION` … `END`) and the `Attribute` lines at the top, their lines ended by LF.
+    /// What an export has to give back beside the code: the header (`VERSION` … `END`) with the `Attribute` lines at the
+    /// top, their lines ended by LF, and the `Attribute` lines inside of the code.
     Text header;
+    std::vector<HiddenLine> innerAttributes;
 };
 
 /// A control of an Access form or report: its name, and the number of its AcControlType.

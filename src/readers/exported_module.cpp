@@ -115,6 +115,7 @@ SourceModule ReadExportedModule(std::string_view bytes, const std::string& path)
     module.code = std::move(stripped.code);
     module.fileLines = std::move(stripped.fileLines);
     module.header = std::move(stripped.header);
+    module.innerAttributes = std::move(stripped.innerAttributes);
     ShiftFileLines(module, start.linesBefore);
     return module;
 }

@@ -162,8 +162,13 @@ class ProjectReader {
             if (undecodableIn_.empty()) undecodableIn_ = module.name;
         }
         StrippedCode code = StripAttributes(text.text);
-        project_.modules.push_back(
-            {module.name, TypeOf(module, code), path_, std::move(code.code), {}, std::move(code.header)});
+        project_.modules.push_back({module.name,
+                                    TypeOf(module, code),
+                                    path_,
+                                    std::move(code.code),
+                                    {},
+                                    std::move(code.header),
+                                    std::move(code.innerAttributes)});
         project_.modules.back().code.shrink_to_fit();
     }
 

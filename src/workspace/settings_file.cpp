@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -10,9 +9,10 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "core/utilities/encoding.h"
+#include "core/utilities/failure_frame.h"
+#include "workspace/atomic_file.h"
 
 namespace zentlor::workspace {
 
@@ -73,30 +73,6 @@ class FileLock {
   private:
     int descriptor_;
 };
-
-bool WriteAll(int descriptor, const std::string& bytes) {
-    for (std::size_t written = 0; written < bytes.size();) {
-        const ssize_t n = write(descriptor, bytes.data() + written, bytes.size() - written);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) return false;
-        written += static_cast<std::size_t>(n);
-    }
-    return fsync(descriptor) == 0;
-}
-
-// The new file stands beside the old one until it is whole.
-bool ReplaceFile(const std::string& path, const std::string& bytes) {
-    const std::string temporary = path + ".new";
-    const int descriptor = open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-    if (descriptor < 0) return false;
-    const bool written = WriteAll(descriptor, bytes);
-    const bool closed = close(descriptor) == 0;
-    if (written && closed && rename(temporary.c_str(), path.c_str()) == 0) return true;
-    const int reason = errno;
-    unlink(temporary.c_str());
-    errno = reason;
-    return false;
-}
 
 }  // namespace
 
@@ -163,11 +139,14 @@ void SettingsFile::Flush() {
         }
         bytes += key.substr(separator + 1) + "=" + Escape(value) + "\n";
     }
-    if (!lock.Held() || problem_ || !ReplaceFile(path_, bytes)) {
-        if (!problem_) problem_ = SystemReason();
-        return;
+    if (!lock.Held() && !problem_) problem_ = SystemReason();
+    if (problem_) return;
+    try {
+        WriteFileAtomically(FromUtf8(path_), bytes);
+        values_ = std::move(merged);
+    } catch (const RuntimeError& error) {
+        problem_ = error.what();
     }
-    values_ = std::move(merged);
 }
 
 Text SettingsInMemory::GetSetting(TextView application, TextView section, TextView key) {

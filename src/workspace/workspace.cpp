@@ -137,7 +137,7 @@ class Opener {
         for (std::size_t i = 0; i < document.modules.size(); ++i) {
             readers::SourceModule& module = document.modules[i];
             opened.origins.push_back({std::move(module.path), std::move(module.fileLines), std::move(module.header),
-                                      std::move(compiled.rawCode[i])});
+                                      std::move(module.innerAttributes), std::move(compiled.rawCode[i])});
             opened.project->Add(std::move(module.name), static_cast<int>(module.type), std::move(module.code));
         }
         document.modules.clear();

@@ -21,8 +21,9 @@ struct ModuleOrigin {
     std::string path;
     /// The line of that file for each line of the module; empty where the two are equal.
     std::vector<std::uint32_t> fileLines;
-    /// The header and attributes that stood in front of the code (readers::SourceModule).
+    /// What the editor hides: see readers::SourceModule.
     Text header;
+    std::vector<readers::HiddenLine> innerAttributes;
     /// The lines as they were read, where they differ from the canonical ones and OpenOptions ask for them.
     Text rawCode;
 
@@ -75,6 +76,7 @@ struct StageTimes {
     double tokens = 0;
     double canonical = 0;
     double syntax = 0;
+    double index = 0;
 };
 
 struct OpenOptions {

@@ -6,7 +6,7 @@ namespace zentlor {
 
 void Hints::AddMessage(int id, TextView strProzedur, int lngZeile, TextView strWert1, TextView strWert2) {
     ErgebnisAnzeige(session_, {vbc_.Name(), Text(strProzedur), session_.GetResourceString(id, strWert1, strWert2),
-                               lngZeile, check_});
+                               lngZeile, check_, static_cast<int>(vbc_.Index())});
 }
 
 void Hints::AddUnlessUsed(int useResult, TextView strProzedur, int lngZeile, TextView strWert1) {

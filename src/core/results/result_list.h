@@ -17,6 +17,8 @@ struct Hint {
     Text strHinweis;
     int lngZeile = 0;  ///< 0: the hint belongs to no line
     CheckId check{};
+    /// Position of the component in the project, counted from 0; -1 for a hint about the editor. No row shows it.
+    int component = -1;
 };
 
 /// Sort keys as the list's columns have them: 0 module, 1 procedure, 2 hint, 3 the line as plain text (no header leads

@@ -1,0 +1,192 @@
+// `zentlor check`: opens the paths, runs the checks on each project through the compile gate, and prints one report.
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <set>
+
+#include "cli/commands.h"
+#include "cli/console_host.h"
+#include "cli/report.h"
+#include "cli/words.h"
+#include "core/analysis/compile_gate.h"
+#include "core/analysis/run_driver.h"
+#include "core/utilities/encoding.h"
+#include "workspace/settings_file.h"
+#include "workspace/stopwatch.h"
+
+namespace zentlor::cli {
+
+namespace {
+
+bool ShowsColour() {
+    const char* noColour = std::getenv("NO_COLOR");
+    const char* terminal = std::getenv("TERM");
+    const bool dumb = terminal == nullptr || std::string_view(terminal) == "dumb";
+    return isatty(STDOUT_FILENO) == 1 && (noColour == nullptr || noColour[0] == '\0') && !dumb;
+}
+
+// The settings of one run: those of the user, of a file that was named, or none.
+class RunSettings {
+  public:
+    explicit RunSettings(const Arguments& arguments) {
+        if (arguments.isolated) return;
+        file_.emplace(arguments.settings.empty() ? workspace::DefaultSettingsPath() : arguments.settings);
+    }
+
+    SettingsStore& Store() {
+        if (file_) return *file_;
+        return memory_;
+    }
+
+    // Tells once, and only where it matters to the user, that the settings could not be read or kept.
+    void Flush(int sprache) {
+        if (!file_) return;
+        file_->Flush();
+        if (!file_->Problem()) return;
+        fmt::print(stderr, "{}\n",
+                   Say(sprache, "Die Einstellungen in „[%1]“ sind nicht verfügbar ([%2]); es gelten die Vorgaben.",
+                       "The settings in “[%1]” are not available ([%2]); the defaults apply.",
+                       {Printable(file_->Path()), Printable(*file_->Problem())}));
+    }
+
+  private:
+    std::optional<workspace::SettingsFile> file_;
+    workspace::SettingsInMemory memory_;
+};
+
+class CheckCommand {
+  public:
+    explicit CheckCommand(const Arguments& arguments)
+        : arguments_(arguments),
+          settings_(arguments),
+          host_(arguments.requireDeclaration),
+          session_(host_.AsHost(settings_.Store())),
+          report_(MakeReport(arguments.format, ShowsColour() && arguments.output.empty())) {}
+
+    int Run() {
+        host_.ServeStopsOf(session_);
+        ConsoleHost::WatchInterrupt();
+        ReadOptions();
+        OpenPaths();
+        if (!arguments_.component.empty() && !ComponentExists()) return kTrouble;
+        const auto start = std::chrono::steady_clock::now();
+        for (workspace::OpenedProject& project : opened_.projects) {
+            if (!ConsoleHost::Interrupted()) CheckProject(project);
+        }
+        if (arguments_.stageTimes) PrintStageTimes(std::chrono::steady_clock::now() - start);
+        const std::string bytes = report_->Finish(session_, opened_);
+        const bool written = WriteOutput(arguments_.output, bytes, sprache_);
+        if (ConsoleHost::Interrupted()) {
+            fmt::print(stderr, "{}\n", ToUtf8(session_.GetResourceString(216)));
+            return kInterrupted;
+        }
+        const bool trouble = !written || refused_ || !opened_.Complete() || session_.FailureCount() > 0;
+        return trouble ? kTrouble : found_ ? kHints : kNoHints;
+    }
+
+  private:
+    void ReadOptions() {
+        OptionenLesen(settings_.Store(), session_, session_.udtOptionen);
+        if (arguments_.sprache != 0) session_.udtOptionen.AllgSprache = arguments_.sprache;
+        session_.GetResourceString(101);  // settles a language that could not be read
+        sprache_ = session_.udtOptionen.AllgSprache;
+        settings_.Flush(sprache_);
+        if (!arguments_.only.empty()) session_.udtOptionen.enabled.fill(false);
+        for (const CheckId id : arguments_.only) session_.udtOptionen[id] = true;
+        for (const CheckId id : arguments_.ignore) session_.udtOptionen[id] = false;
+    }
+
+    void OpenPaths() {
+        workspace::OpenOptions options;
+        options.limits = arguments_.limits;
+        options.projectPerFolder = arguments_.projectPerFolder;
+        if (arguments_.stageTimes) options.times = &times_;
+        opened_ = workspace::Open(arguments_.paths, options);
+        PrintTroubles(opened_, sprache_);
+        if (!arguments_.stageTimes) return;
+        const workspace::Stopwatch watch(&times_, &workspace::StageTimes::index);
+        for (const workspace::OpenedProject& project : opened_.projects) project.project->Words();
+    }
+
+    bool ComponentExists() const {
+        std::vector<std::string> known;
+        for (const workspace::OpenedProject& project : opened_.projects) {
+            for (const auto& component : project.project->VBComponents()) known.push_back(ToUtf8(component->Name()));
+        }
+        if (std::find(known.begin(), known.end(), arguments_.component) != known.end()) return true;
+        fmt::print(stderr, "{}\n",
+                   Say(sprache_, "Es gibt keine Komponente „[%1]“; am ähnlichsten ist „[%2]“.",
+                       "There is no component “[%1]”; the most similar one is “[%2]”.",
+                       {Printable(arguments_.component), Printable(NearestWord(arguments_.component, known))}));
+        return false;
+    }
+
+    void CheckProject(workspace::OpenedProject& project) {
+        host_.SetProject(*project.project, project.errors.empty() || arguments_.uncompiled);
+        if (arguments_.uncompiled) PrintErrors(project);
+        const RunResult result = arguments_.component.empty() ? AlleModulePrüfen(session_) : CheckComponent(project);
+        host_.ClearProgressLine();
+        if (result == RunResult::Refused) {
+            refused_ = refused_ || !project.errors.empty();
+            if (!arguments_.uncompiled) PrintErrors(project);
+            return;
+        }
+        found_ = found_ || session_.lvwErgebnis.Count() > 0;
+        report_->AddProject(session_, project);
+        if (result == RunResult::Finished) report_->AddStatus(ToUtf8(host_.Panel(1)), ToUtf8(host_.Panel(2)));
+        // The check of the editor's setting is about no project: once is enough.
+        session_.udtOptionen[CheckId::ModOptionExplicitAutomatisch] = false;
+        session_.lvwErgebnis.Clear();
+    }
+
+    // In a workspace of several projects each one that has the component is checked.
+    RunResult CheckComponent(const workspace::OpenedProject& project) {
+        RunResult result = RunResult::Refused;
+        const Text name = FromUtf8(arguments_.component);
+        session_.ActiveVBProject();
+        for (const auto& component : project.project->VBComponents()) {
+            if (component->Name() != name) continue;
+            if (!IstCodeKompiliert(session_)) return RunResult::Refused;
+            result = EinModulPrüfen(session_, *component);
+        }
+        return result;
+    }
+
+    void PrintErrors(const workspace::OpenedProject& project) {
+        for (const workspace::CompileError& error : project.errors) {
+            fmt::print(stderr, "{}\n", CompileErrorLine(project, error, sprache_));
+        }
+    }
+
+    void PrintStageTimes(std::chrono::steady_clock::duration checks) const {
+        constexpr double kMs = 1000;
+        fmt::print(stderr,
+                   "stages: read {:.1f} ms, tokens {:.1f} ms, canonical {:.1f} ms, syntax {:.1f} ms, index {:.1f} ms, "
+                   "checks {:.1f} ms\n",
+                   times_.read * kMs, times_.tokens * kMs, times_.canonical * kMs, times_.syntax * kMs,
+                   times_.index * kMs, std::chrono::duration<double>(checks).count() * kMs);
+    }
+
+    const Arguments& arguments_;
+    RunSettings settings_;
+    ConsoleHost host_;
+    Session session_;
+    std::unique_ptr<Report> report_;
+    workspace::Workspace opened_;
+    workspace::StageTimes times_;
+    int sprache_ = 1;
+    bool found_ = false;
+    bool refused_ = false;
+};
+
+}  // namespace
+
+int RunCheck(const Arguments& arguments) {
+    return CheckCommand(arguments).Run();
+}
+
+}  // namespace zentlor::cli

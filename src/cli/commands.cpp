@@ -1,0 +1,85 @@
+// What the verbs share: the choice of the verb, the language, and the way to the streams.
+
+#include "cli/commands.h"
+
+#include <fmt/format.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "cli/words.h"
+#include "core/options/option_store.h"
+#include "core/utilities/encoding.h"
+#include "workspace/atomic_file.h"
+#include "workspace/settings_file.h"
+
+namespace zentlor::cli {
+
+int Run(const Arguments& arguments) {
+    switch (arguments.verb) {
+        case Verb::Check:
+            return RunCheck(arguments);
+        case Verb::Dump:
+            return RunDump(arguments);
+        case Verb::Checks:
+            return RunChecks(arguments);
+        case Verb::Compile:
+            return RunCompile(arguments);
+        case Verb::Extract:
+            return RunExtract(arguments);
+        case Verb::Info:
+            return RunInfo(arguments);
+    }
+    return kTrouble;
+}
+
+int LanguageOf(const Arguments& arguments) {
+    if (arguments.sprache != 0) return arguments.sprache;
+    workspace::SettingsFile store(workspace::DefaultSettingsPath());
+    return store.GetSetting(kApplication, kSection, kSpracheKey) == u"2" ? 2 : 1;
+}
+
+void PrintTroubles(const workspace::Workspace& opened, int sprache) {
+    for (const workspace::Unreadable& unreadable : opened.unreadable) {
+        fmt::print(stderr, "{}\n", Printable(InLanguage(unreadable.sentence, sprache)));
+    }
+    for (const readers::Sentence& problem : opened.problems) {
+        fmt::print(stderr, "{}\n", Printable(InLanguage(problem, sprache)));
+    }
+    for (const readers::Document& document : opened.empty) {
+        fmt::print(
+            stderr, "{}\n",
+            Say(sprache, "„[%1]“ enthält keinen VBA-Code.", "“[%1]” holds no VBA code.", {Printable(document.path)}));
+    }
+}
+
+std::string CompileErrorLine(const workspace::OpenedProject& project, const workspace::CompileError& error,
+                             int sprache) {
+    const workspace::ModuleOrigin& origin = project.origins[error.component];
+    const std::string& sentence = sprache == 2 ? error.error.sentence.english : error.error.sentence.german;
+    return fmt::format("{}:{}:{}: {}", Printable(origin.path), origin.FileLine(error.error.line), error.error.column,
+                       Printable(sentence));
+}
+
+bool WriteOutput(const std::string& path, const std::string& bytes, int sprache) {
+    std::string reason;
+    if (path.empty()) {
+        const bool written = std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size();
+        if (written && std::fflush(stdout) == 0) return true;
+        reason = std::strerror(errno);
+    } else {
+        try {
+            workspace::WriteFileAtomically(FromUtf8(path), bytes);
+            return true;
+        } catch (const RuntimeError& error) {
+            reason = error.what();
+        }
+    }
+    fmt::print(stderr, "{}\n",
+               Say(sprache, "Die Ausgabe wurde nicht geschrieben: [%1]", "The output was not written: [%1]",
+                   {Printable(reason)}));
+    return false;
+}
+
+}  // namespace zentlor::cli

@@ -1,0 +1,160 @@
+#include "cli/report.h"
+
+#include <fmt/format.h>
+
+#include <iterator>
+
+#include "cli/words.h"
+#include "core/results/records.h"
+#include "core/utilities/encoding.h"
+
+namespace zentlor::cli {
+
+namespace {
+
+const workspace::ModuleOrigin* OriginOf(const Hint& hint, const workspace::OpenedProject& project) {
+    return hint.component < 0 ? nullptr : &project.origins[static_cast<std::size_t>(hint.component)];
+}
+
+// For people: one line a hint, a blank line between two modules, and the status texts at the end.
+class TextReport : public Report {
+  public:
+    explicit TextReport(bool colour)
+        : bold_(colour ? "\033[1m" : ""), dim_(colour ? "\033[2m" : ""), off_(colour ? "\033[0m" : "") {}
+
+    void AddProject(Session& session, const workspace::OpenedProject& project) override {
+        for (const Hint& hint : session.lvwErgebnis.Emitted()) {
+            const workspace::ModuleOrigin* origin = OriginOf(hint, project);
+            if (origin != lastOrigin_ && !text_.empty()) text_ += '\n';
+            lastOrigin_ = origin;
+            auto out = std::back_inserter(text_);
+            if (origin != nullptr) {
+                const int line = origin->FileLine(hint.lngZeile == 0 ? 1 : hint.lngZeile);
+                fmt::format_to(out, "{}{}:{}:{} ", bold_, Printable(origin->path), line, off_);
+            }
+            fmt::format_to(out, "{}.{}: {} {}[{}]{}\n", Printable(TextView(hint.strNameVBC)),
+                           Printable(TextView(hint.strProzedur)), Printable(TextView(hint.strHinweis)), dim_,
+                           ToUtf8(InfoOf(hint.check).key), off_);
+        }
+    }
+
+    void AddStatus(const std::string& hints, const std::string& duration) override {
+        status_ += fmt::format("{} {}\n", hints, duration);
+    }
+
+    std::string Finish(Session& session, const workspace::Workspace& opened) override {
+        if (!text_.empty()) text_ += '\n';
+        return text_ + status_ + ReadSummary(opened, session.udtOptionen.AllgSprache) + "\n";
+    }
+
+  private:
+    const char* bold_;
+    const char* dim_;
+    const char* off_;
+    std::string text_;
+    std::string status_;
+    const workspace::ModuleOrigin* lastOrigin_ = nullptr;
+};
+
+// For programs: one object a hint, in order of emission. Written by hand: this is the form in which a million hints are
+// handed on.
+class JsonReport : public Report {
+  public:
+    void AddProject(Session& session, const workspace::OpenedProject& project) override {
+        for (const Hint& hint : session.lvwErgebnis.Emitted()) AddHint(hint, project);
+    }
+    void AddStatus(const std::string&, const std::string&) override {}
+    std::string Finish(Session&, const workspace::Workspace&) override { return std::move(lines_); }
+
+  private:
+    void Field(std::string_view name, TextView value) {
+        lines_ += name;
+        AppendJsonString(value, lines_);
+    }
+
+    void AddHint(const Hint& hint, const workspace::OpenedProject& project) {
+        const workspace::ModuleOrigin* origin = OriginOf(hint, project);
+        Field("{\"check\":", InfoOf(hint.check).key);
+        Field(",\"module\":", hint.strNameVBC);
+        Field(",\"procedure\":", hint.strProzedur);
+        Field(",\"hint\":", hint.strHinweis);
+        fmt::format_to(std::back_inserter(lines_), ",\"line\":{}", hint.lngZeile);
+        Field(",\"path\":", origin == nullptr ? Text() : FromUtf8(origin->path));
+        if (project.isDocument) Field(",\"document\":", FromUtf8(project.document.path));
+        const int fileLine = origin == nullptr || hint.lngZeile == 0 ? 0 : origin->FileLine(hint.lngZeile);
+        fmt::format_to(std::back_inserter(lines_), ",\"fileLine\":{}}}\n", fileLine);
+    }
+
+    std::string lines_;
+};
+
+// The two forms of the export: bytes of Windows-1252, rows in the order of the list. The hints of several projects make
+// one list.
+class RecordReport : public Report {
+  public:
+    explicit RecordReport(bool csv) : csv_(csv) {}
+
+    void AddProject(Session& session, const workspace::OpenedProject&) override {
+        const auto& emitted = session.lvwErgebnis.Emitted();
+        hints_.insert(hints_.end(), emitted.begin(), emitted.end());
+    }
+    void AddStatus(const std::string&, const std::string&) override {}
+
+    std::string Finish(Session& session, const workspace::Workspace&) override {
+        session.lvwErgebnis.Clear();
+        for (Hint& hint : hints_) session.lvwErgebnis.Add(std::move(hint));
+        return ToWindows1252(csv_ ? CsvRecords(session) : TxtRecords(session));
+    }
+
+  private:
+    bool csv_;
+    std::vector<Hint> hints_;
+};
+
+}  // namespace
+
+std::unique_ptr<Report> MakeReport(const std::string& format, bool colour) {
+    if (format == "jsonl") return std::make_unique<JsonReport>();
+    if (format == "text") return std::make_unique<TextReport>(colour);
+    return std::make_unique<RecordReport>(format == "csv");
+}
+
+void AppendJsonString(TextView text, std::string& out) {
+    out += '"';
+    std::size_t begin = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i];
+        if (c >= 0x20 && c != u'"' && c != u'\\' && c != 0x7F) continue;
+        AppendUtf8(text.substr(begin, i - begin), out);
+        begin = i + 1;
+        if (c == u'"' || c == u'\\') {
+            out += '\\';
+            out += static_cast<char>(c);
+        } else {
+            fmt::format_to(std::back_inserter(out), "\\u{:04x}", static_cast<unsigned>(c));
+        }
+    }
+    AppendUtf8(text.substr(begin), out);
+    out += '"';
+}
+
+std::string ReadSummary(const workspace::Workspace& opened, int sprache) {
+    std::size_t modules = 0;
+    int lines = 0;
+    for (const workspace::OpenedProject& project : opened.projects) {
+        modules += project.origins.size();
+        lines += project.LineCount();
+    }
+    std::string text = Say(sprache, "Gelesen: [%1] Projekte, [%2] Module, [%3] Zeilen",
+                           "Read: [%1] projects, [%2] modules, [%3] lines",
+                           {std::to_string(opened.projects.size()), std::to_string(modules), std::to_string(lines)});
+    if (!opened.empty.empty()) {
+        text +=
+            Say(sprache, "; ohne VBA-Code: [%1]", "; without VBA code: [%1]", {std::to_string(opened.empty.size())});
+    }
+    const std::size_t failed = opened.unreadable.size() + opened.problems.size();
+    if (failed > 0) text += Say(sprache, "; mit Fehlern: [%1]", "; with errors: [%1]", {std::to_string(failed)});
+    return text + ".";
+}
+
+}  // namespace zentlor::cli

@@ -1,0 +1,22 @@
+#pragma once
+
+// A component as the editor's own export would write it: header, attributes and code in one text, and the name of its
+// file.
+
+#include <string>
+
+#include "workspace/workspace.h"
+
+namespace zentlor::workspace {
+
+/// The whole text of the exported file, lines ended by CR LF. The code is the one that was read, if `project` kept it.
+Text ExportText(const OpenedProject& project, const VBComponent& component);
+
+/// The file's name: the component's name and .bas, .cls or .frm. Characters that are no part of a plain file name
+/// become "_", so that the file lies in its folder whatever the component is called. UTF-8.
+std::string ExportFileName(const VBComponent& component);
+
+/// `name` as a plain file name, without separators, control characters, leading dots and names of devices.
+std::string PlainFileName(TextView name);
+
+}  // namespace zentlor::workspace
