@@ -32,7 +32,10 @@ class StatementReader {
 
     TextView TakeName() {
         if (rest_.starts_with(u'[')) return rest_.substr(1, std::min(rest_.find(u']'), rest_.size()) - 1);
-        return PeekWord();
+        // Outside of ASCII everything is part of a name: the code pages of the editor know letters that others do not.
+        const auto end = std::find_if_not(rest_.begin(), rest_.end(),
+                                          [](char16_t c) { return c >= 0x80 || IsWordCharacter(c); });
+        return rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
     }
 
     void SkipLineNumber() {
