@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
     }
     zentlor::fuzz::Seeds seeds;
     zentlor::fuzz::AddAccessSeeds(seeds);
+    zentlor::fuzz::AddOfficeSeeds(seeds);
     for (const auto& [target, documents] : seeds) {
         const std::filesystem::path folder = std::filesystem::path(argv[1]) / target;
         std::filesystem::create_directories(folder);

@@ -12,5 +12,10 @@ namespace zentlor::fuzz {
 using Seeds = std::map<std::string, std::vector<std::string>>;
 
 void AddAccessSeeds(Seeds& seeds);
+/// After the databases' seeds: the target for whole files takes some of them too.
+void AddOfficeSeeds(Seeds& seeds);
+
+/// Between the pieces of the input of the target `project`.
+inline constexpr const char* kSeparator = "\n----\n";
 
 }  // namespace zentlor::fuzz
