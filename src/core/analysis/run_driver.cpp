@@ -100,6 +100,7 @@ RunResult RunProject(Session& session) {
 // status bar shares its place.
 RunResult RunComponent(Session& session, const VBComponent& vbc) {
     Host& host = session.host();
+    session.ActiveVBProject();  // its routines report to this session from here on
     ClearCounters(session);
     OberflächeZurücksetzen(session);
     session.blnAbbruch = false;
