@@ -39,7 +39,11 @@ bool StatementParser::ParseThen(const Token& opener, bool isBehindElse) {
 
 bool StatementParser::ParseElseIf() {
     const Token& word = Here();
-    if (!EnterElse(word)) return false;
+    if (lineIfs_ > 0) {
+        Advance();
+    } else if (!EnterElse(word)) {
+        return false;
+    }
     if (!ParseExpression() || !Expect(Keyword::Then, Fault::Then)) return false;
     bodyFollows_ = true;
     return true;

@@ -70,8 +70,8 @@ bool ModuleParser::ParseAnyStatement() {
         default:
             break;
     }
-    // An `Else` ends statements but is none here.
-    if (Here().Is(Keyword::Else)) Advance();
+    // These end statements but are none here.
+    if (Here().Is(Keyword::Else) || Here().Is(Keyword::ElseIf)) Advance();
     if (!ParseModuleStatement()) return false;
     return AtStatementEnd() || FailExpecting(Fault::StatementEnd);
 }

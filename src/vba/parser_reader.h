@@ -43,8 +43,10 @@ class ParserReader {
     bool Expect(Keyword keyword, Fault fault) { return Accept(keyword) || FailExpecting(fault); }
 
     bool AtLineEnd() const { return Here().Is(TokenKind::EndOfLine) || Here().Is(TokenKind::EndOfText); }
-    /// A statement ends at the line's end, at a colon, and in front of `Else`.
-    bool AtStatementEnd() const { return AtLineEnd() || Here().Is(Operator::Colon) || Here().Is(Keyword::Else); }
+    /// A statement ends at the line's end, at a colon, and in front of `Else` and `ElseIf`.
+    bool AtStatementEnd() const {
+        return AtLineEnd() || Here().Is(Operator::Colon) || Here().Is(Keyword::Else) || Here().Is(Keyword::ElseIf);
+    }
     void SkipToStatementEnd();
     void SkipToLineEnd();
 

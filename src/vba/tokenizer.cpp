@@ -129,10 +129,15 @@ class Scanner {
             case u'&':
                 return !HasTraitAt(place + 1, kNamePart) && CharacterAt(place + 1) != u'"';
             case u'^':
-                return !IsOperandStart(place + 1);
+                return BeginsHeader() || !IsOperandStart(place + 1);
             default:
                 return false;
         }
+    }
+    // Behind these words stands the name of a procedure, whose type character a "(" may follow.
+    bool BeginsHeader() const {
+        return previous_.Is(Keyword::Function) || previous_.Is(Keyword::Sub) || previous_.Is(Keyword::Get) ||
+               previous_.Is(Keyword::Event);
     }
     bool IsOperandStart(std::size_t place) const {
         if (CharacterAt(place) == u'-') return true;
@@ -225,8 +230,23 @@ class Scanner {
         const bool isClosed = end < text_.size() && text_[end] == u']';
         if (!isClosed) unclosedUntil_ = end;
         if (!isClosed || end == at_ + 1) return Add(TokenKind::Unknown, 1);
+        end = OuterBracket(end);
         const bool isMember = previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang);
         Add(TokenKind::Name, end + 1 - at_, 0, static_cast<std::uint8_t>(kBracketed | (isMember ? kMember : 0)));
+    }
+
+    // Brackets may hold brackets, as in `[Table[Column]]`: the place of the "]" that fits the current "[". Where they
+    // don't come in pairs it is the first one, `closing`.
+    std::size_t OuterBracket(std::size_t closing) {
+        if (at_ < unpairedUntil_) return closing;
+        std::size_t end = at_;
+        int open = 0;
+        for (; end < text_.size() && text_[end] != u'\n'; ++end) {
+            if (text_[end] == u'[') ++open;
+            if (text_[end] == u']' && --open == 0) return end;
+        }
+        unpairedUntil_ = end;
+        return closing;
     }
 
     void ScanHash() {
@@ -270,7 +290,7 @@ class Scanner {
             case Keyword::Unlock:
             case Keyword::Width:
             case Keyword::Write:
-                return previous_.IsWord();
+                return previous_.IsWord() && !previous_.Has(kMember);
             default:
                 return false;
         }
@@ -374,6 +394,7 @@ class Scanner {
     Tokens& tokens_;
     std::size_t at_ = 0;
     std::size_t unclosedUntil_ = 0;  // no "]" stands in front of this place
+    std::size_t unpairedUntil_ = 0;  // Brackets in front of this place don't come in pairs.
     Token previous_;                 // The last token that is no continuation; at the start an `EndOfText` of length 0.
 };
 
