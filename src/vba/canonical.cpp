@@ -17,6 +17,10 @@ namespace {
 
 constexpr std::size_t kTabStop = 4;
 
+bool IsComparison(Operator op) {
+    return op >= Operator::Equal && op <= Operator::NotEqual;
+}
+
 class ModuleWriter {
   public:
     ModuleWriter(const Tokens& tokens, TextView text, const Capitalisation& capitalisation,
@@ -47,7 +51,7 @@ class ModuleWriter {
 
   private:
     // The `EndOfLine` of the logical line that begins with token `first`. A line is readable if it holds no unknown
-    // character, no "." and "!" without a member and no open parenthesis. Attributes are never rewritten.
+    // character, no open parenthesis and no mark without what it marks. Attributes are never rewritten.
     std::size_t FindLineEnd(std::size_t first, bool& isReadable) const {
         int depth = 0;
         isReadable = tokens_[first].keyword() != Keyword::Attribute;
@@ -58,13 +62,22 @@ class ModuleWriter {
             if (token.kind != TokenKind::Operator) continue;
             if (token.Is(Operator::OpenParenthesis)) ++depth;
             if (token.Is(Operator::CloseParenthesis) && --depth < 0) isReadable = false;
-            if (token.Is(Operator::Dot) || token.Is(Operator::Bang)) {
-                const Token& member = tokens_[SkipContinuations(tokens_, i + 1)];
-                if (!member.IsWord() && !member.Is(Operator::Question)) isReadable = false;
-            }
+            if (!IsWellPlaced(i)) isReadable = false;
         }
         if (depth != 0) isReadable = false;
         return i;
+    }
+
+    // False for a "." or "!" without a member, a "#" without a file number, and for two comparisons in a row.
+    bool IsWellPlaced(std::size_t index) const {
+        const Token& token = tokens_[index];
+        const Token& next = tokens_[SkipContinuations(tokens_, index + 1)];
+        if (token.Is(Operator::Dot) || token.Is(Operator::Bang)) return next.IsWord();
+        if (token.Is(Operator::Hash)) {
+            return next.kind == TokenKind::Name || next.kind == TokenKind::Integer ||
+                   next.Is(Operator::OpenParenthesis);
+        }
+        return !IsComparison(token.op()) || !IsComparison(next.op());
     }
 
     void WriteLine(std::size_t first, std::size_t end) {

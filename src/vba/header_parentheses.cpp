@@ -36,7 +36,7 @@ std::size_t FindHeaderName(const Tokens& tokens, std::size_t first, bool& isDecl
         return kNoToken;
     }
     i = SkipContinuations(tokens, i);
-    return tokens[i].IsWord() ? i : kNoToken;
+    return tokens[i].kind == TokenKind::Name ? i : kNoToken;
 }
 
 }  // namespace

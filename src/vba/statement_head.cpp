@@ -42,7 +42,7 @@ StatementHead ReadStatementHead(const Tokens& tokens, std::size_t start) {
         if (IsMemberMark(tokens[next])) {
             if (next > start && BeginsArgument(tokens, next)) break;
             const std::size_t member = SkipContinuations(tokens, next + 1);
-            if (!tokens[member].IsWord() && !tokens[member].Is(Operator::Question)) break;
+            if (!tokens[member].IsWord()) break;
             last = tokens[member].keyword();
             open = kNoToken;
             at = member + 1;
@@ -59,9 +59,12 @@ StatementHead ReadStatementHead(const Tokens& tokens, std::size_t start) {
     head.isDrawing = last == Keyword::Line || last == Keyword::Scale;
     if (open == kNoToken) {
         head.end = behind;
-    } else if (at != open + 2 && !tokens[behind].Is(Operator::Equal) && !tokens[behind].Is(Keyword::As)) {
-        head.argument = open;
+        return head;
     }
+    // `Debug.Print (a) = b` prints a comparison: nothing of `Debug` can be assigned to.
+    const bool isAssigned = tokens[behind].Is(Operator::Equal) && !tokens[start].Is(Keyword::Debug);
+    const bool isEmpty = at == open + 2;
+    if (!isEmpty && !isAssigned && !tokens[behind].Is(Keyword::As)) head.argument = open;
     return head;
 }
 

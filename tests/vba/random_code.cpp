@@ -57,20 +57,23 @@ class Writer {
   private:
     Text Name() { return Text(RandomNames()[random_() % RandomNames().size()]); }
 
+    // A name that begins a statement: no contextual keyword, which would rule the statement.
+    Text Callee() { return Text(RandomNames()[random_() % 5]); }
+
     Text Simple() {
         switch (random_() % 8) {
             case 0:
-                return Name() + u" " + List();
+                return Callee() + u" " + List();
             case 1:
-                return Name() + u"." + Name() + u" " + Name() + u":=" + Operand(2) + u", Item:=-1";
+                return Callee() + u"." + Name() + u" " + Name() + u":=" + Operand(2) + u", Item:=-1";
             case 2:
-                return Name() + u" (" + Expression() + u"), " + Operand(1);
+                return Callee() + u" (" + Expression() + u"), " + Operand(1);
             case 3:
                 return u"Debug.Print " + Expression() + u"; " + Operand(2);
             case 4:
-                return Name() + u" , " + Operand(1);
+                return Callee() + u" , " + Operand(1);
             case 5:
-                return Name() + u" -" + Name();
+                return Callee() + u" -" + Name();
             default:
                 return Name() + (random_() % 2 == 0 ? u"" : u"(1)") + u" = " + Expression();
         }

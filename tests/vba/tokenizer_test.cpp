@@ -54,6 +54,7 @@ TEST(Tokenizer, TypeCharacters) {
         {"an ampersand between operands joins them", u"a&b & c&\"d\"", "N:a & N:b & N:c & S:\"d\" /"},
         {"an ampersand behind a type character joins", u"a$&b", "N:a${type} & N:b /"},
         {"LongLong and power", u"a^ = b^2 + c^", "N:a^{type} = N:b ^ I:2 + N:c^{type} /"},
+        {"a function of type LongLong", u"Function f^(x)", "K:Function N:f^{type} ( N:x ) /"},
         {"a keyword carries none", u"Print#1, x", "K:Print # I:1 , N:x /"},
         {"neither does Input in front of a file number", u"Line Input#1, x", "N:Line N:Input # I:1 , N:x /"},
     });
