@@ -18,8 +18,9 @@ namespace {
 constexpr TextView kDirectoryStream = u"\u0003DirData";
 constexpr std::uint64_t kDirectoryMaximum = 4 << 20;
 constexpr std::uint64_t kTypeInfoMaximum = 4 << 20;
-/// More forms or reports than a database can have.
+/// More forms and reports than a database can have, and more than their lists come to.
 constexpr std::size_t kMostLayouts = 32768;
+constexpr std::uint64_t kMostTypeInfo = 16 << 20;
 constexpr std::uint8_t kDirectoryRecord = 4;
 constexpr std::uint64_t kTypeInfoCountAt = 0x0C;
 constexpr std::uint64_t kTypeInfoListAt = 0x20;
@@ -36,7 +37,7 @@ struct DirectoryEntry {
 std::vector<DirectoryEntry> ParseDirectory(std::string_view bytes) {
     std::vector<DirectoryEntry> entries;
     std::uint64_t at = 4;
-    while (U8At(bytes, at) == kDirectoryRecord && entries.size() < kMostLayouts) {
+    while (U8At(bytes, at) == kDirectoryRecord) {
         const std::uint64_t size = U8At(bytes, at + 1);
         if (size < 4 || at + 2 + size > bytes.size()) break;
         entries.push_back({FromUtf16Le(bytes.substr(at + 2, size - 4)), U32At(bytes, at + 2 + size - 4)});
@@ -55,18 +56,37 @@ std::optional<std::string_view> TakeName(std::string_view bytes, std::uint64_t& 
     return name;
 }
 
-void ReadLayoutsOf(const Storage& root, TextView folder, bool report, int codePage, std::vector<FormLayout>& layouts) {
-    const auto storage = root.OpenStorage(folder);
-    const auto directory = storage ? storage->ReadStream(kDirectoryStream, kDirectoryMaximum) : std::nullopt;
-    if (!directory) return;
-    for (DirectoryEntry& entry : ParseDirectory(*directory)) {
-        FormLayout layout{std::move(entry.name), report, {}};
-        const auto object = storage->OpenStorage(ToText(entry.number));
-        const auto typeInfo = object ? object->ReadStream(u"TypeInfo", kTypeInfoMaximum) : std::nullopt;
-        if (typeInfo) layout.controls = ParseTypeInfo(*typeInfo, codePage);
-        layouts.push_back(std::move(layout));
+class LayoutReader {
+  public:
+    LayoutReader(const Storage& root, int codePage) : root_(root), codePage_(codePage) {}
+
+    void Read(TextView folder, bool report) {
+        const auto storage = root_.OpenStorage(folder);
+        const auto directory = storage ? storage->ReadStream(kDirectoryStream, kDirectoryMaximum) : std::nullopt;
+        if (!directory) return;
+        for (DirectoryEntry& entry : ParseDirectory(*directory)) {
+            if (layouts_.size() >= kMostLayouts || bytes_ > kMostTypeInfo) {
+                incomplete_ = true;
+                return;
+            }
+            const auto object = storage->OpenStorage(ToText(entry.number));
+            const auto typeInfo = object ? object->ReadStream(u"TypeInfo", kTypeInfoMaximum) : std::nullopt;
+            bytes_ += typeInfo ? typeInfo->size() : 0;
+            layouts_.push_back({std::move(entry.name), report, ParseTypeInfo(typeInfo.value_or(""), codePage_)});
+        }
     }
-}
+
+    std::vector<FormLayout> Take() { return std::move(layouts_); }
+    bool Incomplete() const { return incomplete_; }
+
+  private:
+    const Storage& root_;
+    int codePage_;
+    std::vector<FormLayout> layouts_;
+    /// Many forms may share one list, and then cost more than the file has bytes.
+    std::uint64_t bytes_ = 0;
+    bool incomplete_ = false;
+};
 
 }  // namespace
 
@@ -87,11 +107,12 @@ std::vector<FormControl> ParseTypeInfo(std::string_view bytes, int codePage) {
     return controls;
 }
 
-std::vector<FormLayout> ReadFormLayouts(const Storage& root, int codePage) {
-    std::vector<FormLayout> layouts;
-    ReadLayoutsOf(root, u"Forms", false, codePage, layouts);
-    ReadLayoutsOf(root, u"Reports", true, codePage, layouts);
-    return layouts;
+std::vector<FormLayout> ReadFormLayouts(const Storage& root, int codePage, bool* incomplete) {
+    LayoutReader reader(root, codePage);
+    reader.Read(u"Forms", false);
+    reader.Read(u"Reports", true);
+    if (incomplete && reader.Incomplete()) *incomplete = true;
+    return reader.Take();
 }
 
 }  // namespace zentlor::readers

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <deque>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -31,20 +32,22 @@ struct Node {
     std::uint32_t id = 0;
     std::uint32_t parent = 0;
     bool isStorage = false;
-    Text name;
+    /// The name without regard to case.
     Text key;
-    /// The stream's long value as it stands in the row.
+    /// The name, and a stream's long value, as they stand in the row.
+    std::string_view name;
     std::string_view content;
 };
 
-/// All nodes, sorted by parent and folded name.
+/// All nodes but those that are their own parents, sorted by parent, kind and key.
 struct Tree {
     JetFile* file = nullptr;
-    std::vector<Node> nodes;
+    /// Grows without moving, since there may be many.
+    std::deque<Node> nodes;
 };
 
 bool SortsBefore(const Node& a, const Node& b) {
-    return std::tie(a.parent, a.key) < std::tie(b.parent, b.key);
+    return std::tie(a.parent, a.isStorage, a.key) < std::tie(b.parent, b.isStorage, b.key);
 }
 
 class RowStorage : public Storage {
@@ -66,22 +69,28 @@ class RowStorage : public Storage {
     }
 
   private:
+    /// The first node below this one of that kind and not before that key.
+    std::deque<Node>::const_iterator LowerBound(bool storage, const Text& key) const {
+        const Node wanted{.id = 0, .parent = id_, .isStorage = storage, .key = key, .name = {}, .content = {}};
+        return std::lower_bound(tree_->nodes.begin(), tree_->nodes.end(), wanted, SortsBefore);
+    }
+
+    bool IsBelow(std::deque<Node>::const_iterator node, bool storage) const {
+        return node != tree_->nodes.end() && node->parent == id_ && node->isStorage == storage;
+    }
+
     std::vector<Text> Names(bool storages) const {
         std::vector<Text> names;
-        auto node = std::ranges::lower_bound(tree_->nodes, id_, {}, &Node::parent);
-        for (; node != tree_->nodes.end() && node->parent == id_; ++node) {
-            if (node->isStorage == storages && node->id != id_) names.push_back(node->name);
+        for (auto node = LowerBound(storages, {}); IsBelow(node, storages); ++node) {
+            names.push_back(JetText(node->name, *tree_->file));
         }
         return names;
     }
 
     const Node* Find(TextView name, bool storage) const {
-        const Node wanted{.id = 0, .parent = id_, .isStorage = storage, .name = {}, .key = Folded(name), .content = {}};
-        auto place = std::ranges::lower_bound(tree_->nodes, wanted, SortsBefore);
-        for (; place != tree_->nodes.end() && place->parent == id_ && place->key == wanted.key; ++place) {
-            if (place->isStorage == storage && place->id != id_) return &*place;
-        }
-        return nullptr;
+        const Text key = Folded(name);
+        const auto node = LowerBound(storage, key);
+        return IsBelow(node, storage) && node->key == key ? &*node : nullptr;
     }
 
     std::shared_ptr<const Tree> tree_;
@@ -111,8 +120,8 @@ std::optional<Tree> ReadTree(JetFile& file, const JetTable& table) {
         node.id = U32At(*idValue, 0);
         node.parent = U32At(*parentValue, 0);
         node.isStorage = U32At(row.Value(*type).value_or(std::string_view{}), 0) == kTypeStorage;
-        node.name = JetText(*nameValue, file);
-        node.key = Folded(node.name);
+        node.name = *nameValue;
+        node.key = Folded(JetText(*nameValue, file));
         node.content = row.Value(*content).value_or(std::string_view{});
         tree.nodes.push_back(std::move(node));
     });
@@ -153,12 +162,13 @@ std::unique_ptr<Storage> OpenAccessStorage(JetFile& file, const JetCatalog& cata
     const auto table = catalog.Table(u"MSysAccessStorage");
     auto tree = table ? ReadTree(file, *table) : std::nullopt;
     if (!tree) return nullptr;
-    const auto root = std::ranges::find(tree->nodes, kRootName, &Node::name);
+    const auto root = std::ranges::find(tree->nodes, Folded(kRootName), &Node::key);
     if (root == tree->nodes.end()) {
         file.Damage().brokenRows |= !tree->nodes.empty();
         return nullptr;
     }
     const std::uint32_t rootId = root->id;
+    std::erase_if(tree->nodes, [](const Node& node) { return node.id == node.parent; });
     std::ranges::stable_sort(tree->nodes, SortsBefore);
     return std::make_unique<RowStorage>(std::make_shared<const Tree>(std::move(*tree)), rootId);
 }

@@ -22,7 +22,10 @@ constexpr std::uint8_t kDataPage = 1;
 constexpr std::uint16_t kHidden = 0x8000;
 constexpr std::uint16_t kPointer = 0x4000;
 constexpr std::uint16_t kOffsetMask = 0x1FFF;
+constexpr std::uint64_t kBudgetTimes = 4;
 constexpr std::uint64_t kSmallFileBudget = 1 << 16;
+/// What a step costs besides its bytes, so that many small rows are not many cheap ones.
+constexpr std::uint64_t kStepCost = 64;
 
 JetGeneration GenerationOf(int versionByte) {
     if (versionByte == 0) return JetGeneration::Jet3;
@@ -44,7 +47,7 @@ JetFile::JetFile(std::string_view bytes) : bytes_(bytes) {
     versionByte_ = U8At(bytes, 0x14);
     generation_ = GenerationOf(versionByte_);
     pageSize_ = IsJet3() ? 2048 : 4096;
-    budget_ = 2 * bytes.size() + kSmallFileBudget;
+    budget_ = kBudgetTimes * bytes.size() + kSmallFileBudget;
     DecodeHeader();
     if (!needsPassword_) IndexDataPages();
 }
@@ -125,8 +128,7 @@ std::optional<std::string_view> JetFile::Follow(std::uint32_t pointer) {
         damage_.brokenRows = true;
         return std::nullopt;
     }
-    // A row without bytes takes a step all the same.
-    const std::uint64_t cost = std::max<std::uint64_t>(slot->bytes.size(), 4);
+    const std::uint64_t cost = slot->bytes.size() + kStepCost;
     if (cost > budget_) {
         damage_.endlessChain = true;
         return std::nullopt;

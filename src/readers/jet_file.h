@@ -83,7 +83,7 @@ class JetFile {
     std::uint32_t pageSize_ = 0;
     /// (page of the owner's definition, data page), sorted.
     std::vector<std::pair<std::uint32_t, std::uint32_t>> dataPages_;
-    /// How many bytes may still be reached through pointers. A sound file points at each of its bytes once.
+    /// How much may still be reached through pointers. A sound file points at each of its bytes about once.
     std::uint64_t budget_ = 0;
     JetDamage damage_;
 };

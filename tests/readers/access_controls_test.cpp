@@ -87,5 +87,32 @@ TEST(AccessControls, SurviveDirectoriesThatLie) {
     }
 }
 
+// A directory may name one list again and again, and each time its controls take memory anew.
+TEST(AccessControls, EndWhereNoDatabaseGoes) {
+    const std::string record("\4\6A\0\0\0\0\0", 8);
+    const struct {
+        const char* why;
+        std::size_t entries;
+        std::size_t controls;
+        std::size_t expected;
+    } rows[] = {
+        {"as many forms as there can be", 32768, 0, 32768},
+        {"more forms", 40'000, 0, 32768},
+        {"one long list again and again", 2000, 10'000, 170},
+    };
+    for (const auto& row : rows) {
+        StorageTree tree = WriteAccessTree({}, {{u"A", false, {}}});
+        std::string directory(4, '\0');
+        for (std::size_t i = 0; i < row.entries; ++i) directory += record;
+        tree.Below(u"Forms").BytesOf(u"\u0003DirData") = directory;
+        tree.Below(u"Forms").Below(u"0").BytesOf(u"TypeInfo") =
+            WriteTypeInfo(std::vector<TestControl>(row.controls, {"x", "", 109}));
+        bool incomplete = false;
+        const std::size_t count = readers::ReadFormLayouts(*AsStorage(tree), 1252, &incomplete).size();
+        EXPECT_LE(count, row.expected) << row.why;
+        EXPECT_EQ(incomplete, count < row.entries) << row.why;
+    }
+}
+
 }  // namespace
 }  // namespace zentlor::test
