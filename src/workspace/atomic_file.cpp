@@ -140,7 +140,7 @@ void WriteInPlace(const std::string& path, std::string_view bytes) {
 
 void Replace(const std::string& path, const struct stat* old, std::string_view bytes) {
     // Replacing needs no permission for the file itself. Who may not write it shall not replace it either.
-    if (old != nullptr && ::access(path.c_str(), W_OK) != 0) Fail(path, errno);
+    if (old != nullptr && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) Fail(path, errno);
     std::string temporary = FolderOf(path) + ".zentlor-XXXXXX";
     OpenFile file(path, ::mkostemp(temporary.data(), O_CLOEXEC));
     file.RemoveUnlessRenamed(temporary);
