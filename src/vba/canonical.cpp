@@ -72,7 +72,8 @@ class ModuleWriter {
     bool IsWellPlaced(std::size_t index) const {
         const Token& token = tokens_[index];
         const Token& next = tokens_[SkipContinuations(tokens_, index + 1)];
-        if (token.Is(Operator::Dot) || token.Is(Operator::Bang)) return next.IsWord();
+        if (token.Is(Operator::Bang)) return tokens_[index + 1].IsWord();
+        if (token.Is(Operator::Dot)) return next.IsWord();
         if (token.Is(Operator::Hash)) {
             return next.kind == TokenKind::Name || next.kind == TokenKind::Integer ||
                    next.Is(Operator::OpenParenthesis);

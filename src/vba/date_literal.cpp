@@ -14,8 +14,8 @@ constexpr TextView kMonths[] = {u"january", u"february", u"march",     u"april",
                                 u"july",    u"august",   u"september", u"october", u"november", u"december"};
 
 bool EqualsLower(TextView lower, TextView word) {
-    return lower.size() == word.size() &&
-           std::equal(word.begin(), word.end(), lower.begin(), [](char16_t c, char16_t l) { return (c | 0x20) == l; });
+    return lower.size() == word.size() && std::equal(word.begin(), word.end(), lower.begin(),
+                                                     [](char16_t c, char16_t l) { return (FoldWidth(c) | 0x20) == l; });
 }
 
 bool IsDateWord(TextView word) {
@@ -36,14 +36,14 @@ bool IsSeparator(char16_t c) {
 std::size_t DateLiteralLength(TextView text) {
     std::size_t parts = 0;
     std::size_t i = 1;
-    while (i < text.size() && text[i] != u'#') {
+    while (i < text.size() && FoldWidth(text[i]) != u'#') {
         const std::size_t start = i;
         const std::uint8_t trait = HasTrait(text[i], kDigit) ? kDigit : kNameStart;
-        while (i < text.size() && text[i] < 128 && HasTrait(text[i], trait)) ++i;
+        while (i < text.size() && HasTrait(text[i], trait)) ++i;
         if (i > start) {
             if (trait == kNameStart && !IsDateWord(text.substr(start, i - start))) return 0;
             ++parts;
-        } else if (IsSeparator(text[i])) {
+        } else if (IsSeparator(FoldWidth(text[i]))) {
             ++i;
         } else {
             return 0;

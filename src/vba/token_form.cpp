@@ -22,6 +22,7 @@ char16_t NumberForm(char16_t c) {
 
 Text DateForm(TextView present) {
     Text form(present);
+    std::transform(form.begin(), form.end(), form.begin(), FoldWidth);
     std::size_t i = 0;
     while (i < form.size()) {
         const std::size_t start = i;

@@ -278,6 +278,7 @@ class Scanner {
 
     // Behind these words a "#" stands in front of a file number, whatever else could be read there.
     bool OpensFileNumber() const {
+        if (previous_.Is(Operator::Question)) return true;
         switch (previous_.keyword()) {
             case Keyword::As:
             case Keyword::Close:
