@@ -18,7 +18,7 @@ bool IsDeclarable(const Token& token) {
 
 }  // namespace
 
-bool DeclarationReader::Declares(const Token& token, const Token& following) {
+bool DeclarationReader::Read(const Token& token, const Token& following) {
     switch (token.kind) {
         case TokenKind::Comment:
         case TokenKind::Continuation:

@@ -11,7 +11,12 @@ namespace zentlor::vba {
 class DeclarationReader {
   public:
     /// Takes the next token; `following` is the one behind it. True if the token is a name that is declared here.
-    bool Declares(const Token& token, const Token& following);
+    bool Declares(const Token& token, const Token& following) {
+        // Nearly all tokens stand in statements that declare nothing.
+        const bool isPassedOver = mode_ == Mode::Other && token.kind != TokenKind::EndOfLine &&
+                                  token.kind != TokenKind::Keyword && !token.Is(Operator::Colon);
+        return !isPassedOver && Read(token, following);
+    }
 
   private:
     enum class Mode : std::uint8_t {
@@ -23,6 +28,7 @@ class DeclarationReader {
         Other,
     };
 
+    bool Read(const Token& token, const Token& following);
     bool ReadStart(const Token& token, const Token& following);
     bool ReadList(const Token& token, const Token& following);
     bool ReadHeader(const Token& token, const Token& following);
