@@ -109,11 +109,12 @@ bool ModuleParser::ParseEndOfProcedure() {
 
 // Behind the last line: whatever is open is missing its end there.
 void ModuleParser::NoteUnclosed() {
+    if (place_ == Place::Declarations) return;
     const Token& last = LastWord();
     if (place_ == Place::TypeMembers || place_ == Place::EnumMembers) {
         const TextView words = place_ == Place::TypeMembers ? u"End Type" : u"End Enum";
         Fail(Fault::MemberListAtEnd, last, words, listOpener_->offset);
-    } else if (place_ == Place::Procedure) {
+    } else {
         Fail(Fault::ProcedureAtEnd, last, EndWordsOf(procedureWord_), opener_->offset);
         DropBody();
     }
