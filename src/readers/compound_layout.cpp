@@ -14,6 +14,8 @@ constexpr std::size_t kHeaderBytes = 512;
 constexpr std::size_t kHeaderTableSectors = 109;
 constexpr std::size_t kEntryBytes = 128;
 constexpr std::uint32_t kMiniStreamCutoff = 4096;
+constexpr std::uint8_t kStorageEntry = 1;
+constexpr std::uint8_t kStreamEntry = 2;
 
 class Measurer {
   public:
@@ -24,11 +26,11 @@ class Measurer {
         if (!ReadHeader() || !ReadTableSectors()) return layout;
         layout.truncated = HighestUsedSector() >= sectors_;
         std::uint32_t sector = U32At(bytes_, 0x30);
-        std::uint64_t steps = 0;
         // A chain that is longer than the file has sectors runs in a circle.
-        for (; sector < sectors_ && steps <= sectors_; ++steps) sector = Next(sector);
-        layout.directoryEntries = steps * (sectorBytes_ / kEntryBytes);
-        layout.sound = sector == kEndOfChain && steps > 0;
+        for (; sector < sectors_ && directory_.size() <= sectors_; sector = Next(sector)) directory_.push_back(sector);
+        layout.directoryEntries = CountEntries();
+        layout.sound = sector == kEndOfChain && !directory_.empty();
+        layout.tangled = layout.sound && IsTangled();
         return layout;
     }
 
@@ -86,10 +88,51 @@ class Measurer {
         return highest;
     }
 
+    std::size_t CountEntries() const { return directory_.size() * (sectorBytes_ / kEntryBytes); }
+
+    std::string_view EntryAt(std::size_t index) const {
+        const std::size_t perSector = sectorBytes_ / kEntryBytes;
+        return BytesAt(bytes_, OffsetOf(directory_[index / perSector]) + kEntryBytes * (index % perSector),
+                       kEntryBytes);
+    }
+
+    bool IsTangled() const {
+        std::vector<bool> reached(CountEntries());
+        std::vector<std::uint32_t> waiting{0};
+        while (!waiting.empty()) {
+            const std::uint32_t index = waiting.back();
+            waiting.pop_back();
+            if (index == kFree) continue;
+            if (index >= reached.size() || reached[index]) return true;
+            reached[index] = true;
+            // Its neighbours on the left and right and, for a storage, the top of what is below it.
+            const std::string_view entry = EntryAt(index);
+            waiting.insert(waiting.end(), {U32At(entry, 0x44), U32At(entry, 0x48)});
+            if (U8At(entry, 0x42) != kStreamEntry) waiting.push_back(U32At(entry, 0x4C));
+        }
+        for (std::size_t index = 0; index < reached.size(); ++index) {
+            if (!reached[index] && BelongsToProject(EntryAt(index))) return true;
+        }
+        return false;
+    }
+
+    // A storage "VBA" or a stream "dir", in any case of letters.
+    static bool BelongsToProject(std::string_view entry) {
+        const auto is = [&](std::string_view name) {
+            for (std::size_t i = 0; i < name.size(); ++i) {
+                if ((U16At(entry, 2 * i) | 0x20) != name[i]) return false;
+            }
+            return U16At(entry, 2 * name.size()) == 0;
+        };
+        const std::uint8_t type = U8At(entry, 0x42);
+        return (type == kStorageEntry && is("vba")) || (type == kStreamEntry && is("dir"));
+    }
+
     std::string_view bytes_;
     std::size_t sectorBytes_ = 512;
     std::uint64_t sectors_ = 0;
     std::vector<std::uint32_t> tableSectors_;
+    std::vector<std::uint32_t> directory_;
 };
 
 }  // namespace

@@ -16,6 +16,9 @@ struct CompoundLayout {
     std::uint64_t directoryEntries = 0;
     /// The allocation table speaks of sectors behind the end of the file: its end is missing.
     bool truncated = false;
+    /// The directory is no tree: entries meet twice or lie outside, or a VBA project stands where nothing leads to. The
+    /// library leaves out what it cannot reach, and the document would seem to hold no code.
+    bool tangled = false;
 };
 
 CompoundLayout MeasureCompoundFile(std::string_view bytes);

@@ -15,8 +15,8 @@
 namespace zentlor::readers {
 namespace {
 
-// The library needs time with the square of the entries, and stack for each: 16384 cost it half a second.
-constexpr std::uint64_t kMaximumEntries = 16384;
+// The library needs time with the square of the entries, and stack for each: these cost it half a second.
+constexpr std::uint64_t kMaximumEntries = 12288;
 
 Text Folded(TextView name) {
     Text folded(name);
@@ -77,10 +77,10 @@ class GsfStorage final : public Storage {
 
 }  // namespace
 
-std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, bool* truncated) {
+std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, bool* incomplete) {
     if (!HasCompoundSignature(bytes)) return nullptr;
     const CompoundLayout layout = MeasureCompoundFile(bytes);
-    if (truncated != nullptr) *truncated = layout.truncated;
+    if (incomplete != nullptr) *incomplete = layout.truncated || layout.tangled;
     if (!layout.sound) return nullptr;
     if (layout.directoryEntries > kMaximumEntries) {
         Fail(ReadFailure::Limit,

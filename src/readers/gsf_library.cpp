@@ -44,6 +44,7 @@ std::string ReadGsfInput(GsfInput* input, std::uint64_t maximum, bool* damaged) 
     std::string bytes;
     const auto size = static_cast<std::uint64_t>(std::max<gsf_off_t>(gsf_input_size(input), 0));
     const std::uint64_t wanted = std::min(size, maximum);
+    bytes.reserve(wanted);
     std::uint64_t block = kBlock;
     while (bytes.size() < wanted) {
         const auto at = static_cast<gsf_off_t>(bytes.size());

@@ -48,8 +48,8 @@ class DocumentReader {
         : bytes_(bytes), path_(path), limits_(limits) {
         document_.path = path;
         document_.projectName = FromUtf8(std::filesystem::path(path).stem().string());
-        limits_.sourceBytes = InProportion(limits.sourceBytes, 64, 3, bytes.size());
-        unpackedLeft_ = InProportion(limits.zipPartBytes, 8, 8, bytes.size());
+        limits_.sourceBytes = InProportion(limits.sourceBytes, 64, 2, bytes.size());
+        unpackedLeft_ = InProportion(limits.zipPartBytes, 16, 4, bytes.size());
     }
 
     Document Read() {
@@ -101,12 +101,12 @@ class DocumentReader {
         for (std::size_t i = 0; i < zip.Parts().size(); ++i) {
             if (!HasCompoundSignature(zip.Read(i, 8))) continue;
             std::string part = UnpackPart(zip, i);
-            bool truncated = false;
-            const auto root = OpenCompoundFile(part, path_, &truncated);
-            damagedPart_ |= !root || truncated;
+            bool incomplete = false;
+            const auto root = OpenCompoundFile(part, path_, &incomplete);
+            damagedPart_ |= !root || incomplete;
             if (root && HoldsOvbaProject(*root)) {
                 TakeProject(*root);
-                if (truncated) ReportTruncated();
+                if (incomplete) ReportIncomplete();
                 return true;
             }
             if (root && embedded.empty() && FindBelow(*root)) embedded = std::move(part);
@@ -135,17 +135,17 @@ class DocumentReader {
     }
 
     void ReadCompound() {
-        bool truncated = false;
-        const auto root = OpenCompoundFile(bytes_, path_, &truncated);
+        bool incomplete = false;
+        const auto root = OpenCompoundFile(bytes_, path_, &incomplete);
         if (!root) RefuseDamaged();
         RefuseEncrypted(*root);
         const auto description = DescribeCompoundFile(*root);
         document_.description = description.value_or(Sentence{"VBA-Projekt ohne Dokument", "VBA project by itself"});
         ReadApplication(*root);
         const bool read = ReadProjectOfCompound(*root);
-        if (!read && truncated) RefuseDamaged();
+        if (!read && incomplete) RefuseDamaged();
         if (!read && !description) RefuseKind();
-        if (truncated) ReportTruncated();
+        if (incomplete) ReportIncomplete();
     }
 
     void RefuseEncrypted(const Storage& root) const {
@@ -222,10 +222,10 @@ class DocumentReader {
         document_.problems = std::move(project.problems);
     }
 
-    void ReportTruncated() {
-        document_.problems.push_back(
-            MakeSentence("\"[%1]\" ist abgeschnitten, gelesen wurde, was da ist; die Datei neu übertragen.",
-                         "\"[%1]\" is cut off, what is there was read; transfer the file anew.", {path_}));
+    void ReportIncomplete() {
+        document_.problems.push_back(MakeSentence(
+            "\"[%1]\" ist beschädigt oder abgeschnitten, gelesen wurde, was da ist; die Datei neu übertragen.",
+            "\"[%1]\" is damaged or cut off, what is there was read; transfer the file anew.", {path_}));
     }
 
     std::string_view bytes_;

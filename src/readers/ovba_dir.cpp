@@ -33,8 +33,9 @@ enum Record : std::uint16_t {
     kModuleNameUnicode = 0x0047,
 };
 
-// Real projects have a dozen.
+// Real projects have a dozen, and names of a line at most.
 constexpr std::size_t kMaximumReferences = 4096;
+constexpr std::size_t kLongestName = 2048;
 
 // The library identifier of a registered reference is "*\G{GUID}#version#language#path#description", that of a project
 // "*\C" or "*\A" and its path.
@@ -71,7 +72,7 @@ class DirParser {
                 reference_ = Decode(data);
                 break;
             case kReferenceNameUnicode:
-                reference_ = FromUtf16Le(data);
+                reference_ = Unicode(data);
                 break;
             case kRegisteredReference:
                 AddReference(BytesAt(data, 4, U32At(data, 0)));
@@ -102,7 +103,10 @@ class DirParser {
     void MarkTruncated() { dir_.truncated = true; }
 
   private:
-    Text Decode(std::string_view data) const { return DecodeCodePage(data, dir_.codePage).text; }
+    Text Decode(std::string_view data) const {
+        return DecodeCodePage(data.substr(0, kLongestName), dir_.codePage).text;
+    }
+    static Text Unicode(std::string_view data) { return FromUtf16Le(data.substr(0, 2 * kLongestName)); }
 
     void AddReference(std::string_view identifier) {
         if (dir_.references.size() == kMaximumReferences) {
@@ -117,7 +121,7 @@ class DirParser {
         if (id == kModuleName) {
             FinishModule();
             inModule_ = true;
-            module_.rawName = data;
+            module_.rawName = data.substr(0, kLongestName);
             module_.name = Decode(data);
             module_.streamName = module_.name;
             return;
@@ -125,13 +129,13 @@ class DirParser {
         if (!inModule_) return;
         switch (id) {
             case kModuleNameUnicode:
-                module_.name = FromUtf16Le(data);
+                module_.name = Unicode(data);
                 break;
             case kStreamName:
                 module_.streamName = Decode(data);
                 break;
             case kStreamNameUnicode:
-                module_.streamName = FromUtf16Le(data);
+                module_.streamName = Unicode(data);
                 break;
             case kModuleOffset:
                 module_.sourceOffset = U32At(data, 0);

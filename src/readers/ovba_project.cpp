@@ -19,9 +19,11 @@
 namespace zentlor::readers {
 namespace {
 
-// 32767 modules take about five million bytes here.
-constexpr std::uint64_t kMaximumDirBytes = 16ull << 20;
-constexpr std::uint64_t kMaximumProjectBytes = 4ull << 20;
+// 32767 modules take about five million bytes in `dir` and two in `PROJECT`.
+constexpr std::uint64_t kMaximumDirBytes = 8ull << 20;
+constexpr std::uint64_t kMaximumProjectBytes = 2ull << 20;
+// The compiled form in front of a source may be several times its size.
+constexpr std::uint64_t kStreamToText = 8;
 
 std::string Mebibytes(std::uint64_t bytes) {
     return std::to_string(bytes >> 20) + " MiB";
@@ -118,7 +120,7 @@ class ProjectReader {
         Decompressed text = Unpack(*stream, module.sourceOffset);
         streamBytes_ += stream->size();
         textBytes_ += text.bytes.size();
-        if (streamBytes_ > limits_.sourceBytes || textBytes_ > limits_.sourceBytes) {
+        if (textBytes_ > limits_.sourceBytes || streamBytes_ / kStreamToText > limits_.sourceBytes) {
             Report(
                 "Der Quelltext in \"[%1]\" ist länger als [%2], gelesen wurde der Anfang; --max-source-size hebt die "
                 "Grenze an.",
@@ -247,7 +249,7 @@ OvbaProject ReadOvbaProject(const Storage& root, const std::string& path, const 
     const std::string project = root.ReadStream(u"PROJECT", kMaximumProjectBytes).value_or("");
     OvbaSource source{dir, project, nullptr};
     source.moduleStream = [&](const OvbaDirModule& module) -> std::optional<std::string> {
-        return vba->ReadStream(module.streamName, limits.sourceBytes);
+        return vba->ReadStream(module.streamName, limits.sourceBytes * kStreamToText);
     };
     return ReadOvbaProject(source, path, limits);
 }

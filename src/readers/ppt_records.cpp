@@ -26,6 +26,8 @@ std::string InflateLeniently(std::string_view packed, std::uint64_t maximum) {
     stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(packed.data()));
     stream.avail_in = static_cast<uInt>(std::min<std::size_t>(packed.size(), 0x7FFFFFFF));
     char buffer[16384];
+    // Growing by doubling would hold up to three times the bytes; what is reserved and never written costs nothing.
+    out.reserve(maximum);
     int status = Z_OK;
     while (status == Z_OK && out.size() < maximum) {
         stream.next_out = reinterpret_cast<Bytef*>(buffer);

@@ -192,7 +192,7 @@ TEST(OfficeDocument, ReadsWhatIsThereOfACutOffFile) {
     const Document document = Read(file.bytes);
     EXPECT_EQ(document.modules.size(), 1u);
     ASSERT_EQ(document.problems.size(), 1u);
-    EXPECT_NE(document.problems[0].english.find("is cut off"), std::string::npos);
+    EXPECT_NE(document.problems[0].english.find("is damaged or cut off"), std::string::npos);
 }
 
 TEST(PptRecords, UnpacksWithoutCheckSumAndToAnEarlyEnd) {
