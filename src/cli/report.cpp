@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "cli/words.h"
+#include "core/language/messages.h"
 #include "core/results/records.h"
 #include "core/utilities/encoding.h"
 
@@ -111,6 +112,17 @@ class RecordReport : public Report {
     std::vector<Hint> hints_;
 };
 
+struct Forms {
+    const char* one;
+    const char* many;
+};
+
+// A number with its word: "1 Modul", "2 Module".
+std::string Count(std::size_t number, int sprache, Forms german, Forms english) {
+    const Forms& forms = sprache == kEnglish ? english : german;
+    return fmt::format("{} {}", number, number == 1 ? forms.one : forms.many);
+}
+
 }  // namespace
 
 std::unique_ptr<Report> MakeReport(const std::string& format, bool colour) {
@@ -140,14 +152,15 @@ void AppendJsonString(TextView text, std::string& out) {
 
 std::string ReadSummary(const workspace::Workspace& opened, int sprache) {
     std::size_t modules = 0;
-    int lines = 0;
+    std::size_t lines = 0;
     for (const workspace::OpenedProject& project : opened.projects) {
         modules += project.origins.size();
-        lines += project.LineCount();
+        lines += static_cast<std::size_t>(project.LineCount());
     }
-    std::string text = Say(sprache, "Gelesen: [%1] Projekte, [%2] Module, [%3] Zeilen",
-                           "Read: [%1] projects, [%2] modules, [%3] lines",
-                           {std::to_string(opened.projects.size()), std::to_string(modules), std::to_string(lines)});
+    std::string text = Say(sprache, "Gelesen: [%1], [%2], [%3]", "Read: [%1], [%2], [%3]",
+                           {Count(opened.projects.size(), sprache, {"Projekt", "Projekte"}, {"project", "projects"}),
+                            Count(modules, sprache, {"Modul", "Module"}, {"module", "modules"}),
+                            Count(lines, sprache, {"Zeile", "Zeilen"}, {"line", "lines"})});
     if (!opened.empty.empty()) {
         text +=
             Say(sprache, "; ohne VBA-Code: [%1]", "; without VBA code: [%1]", {std::to_string(opened.empty.size())});

@@ -43,8 +43,11 @@ struct Attribute {
 
 // The parts of a physical line that begins an `Attribute` line.
 std::optional<Attribute> ParseAttribute(TextView line) {
-    const TextView trimmed = WithoutBlanks(line);
     constexpr TextView kWord = u"Attribute";
+    if (line.size() <= kWord.size()) return std::nullopt;
+    const auto first = std::find_if_not(line.begin(), line.end(), IsBlank);
+    if (first == line.end() || FoldCase(*first) != u'a') return std::nullopt;
+    const TextView trimmed = WithoutBlanks(line);
     if (trimmed.size() <= kWord.size() || !IsBlank(trimmed[kWord.size()])) return std::nullopt;
     if (!EqualIgnoringCase(trimmed.substr(0, kWord.size()), kWord)) return std::nullopt;
     const TextView rest = trimmed.substr(kWord.size());
@@ -77,7 +80,8 @@ class LineReader {
     explicit LineReader(TextView text) : text_(text) {}
     bool Next(TextView& line) {
         if (at_ >= text_.size()) return false;
-        const std::size_t end = std::min(text_.find_first_of(u"\r\n", at_), text_.size());
+        std::size_t end = at_;
+        while (end < text_.size() && text_[end] != u'\n' && text_[end] != u'\r') ++end;
         line = text_.substr(at_, end - at_);
         const bool pair = end + 1 < text_.size() && text_[end] == u'\r' && text_[end + 1] == u'\n';
         at_ = end + (pair ? 2 : 1);

@@ -96,7 +96,7 @@ Text DecodeModuleText(std::string_view bytes) {
 
 SourceModule ReadExportedModule(std::string_view bytes, const std::string& path) {
     const Text text = DecodeModuleText(bytes);
-    if (text.find(u'\0') != Text::npos) {
+    if (FindCharacter(text, 0, u'\0') < text.size()) {
         Fail(ReadFailure::NotADocument,
              "„[%1]“ ist kein Modul: die Datei enthält Zeichen, die in keinem Text stehen; geben Sie ein exportiertes "
              "Modul, ein Office-Dokument oder eine Access-Datenbank an.",

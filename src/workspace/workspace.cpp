@@ -133,7 +133,10 @@ class Opener {
         opened.isDocument = isDocument;
         CompiledModules compiled = Compile(document.modules, options_.keepRawCode, options_.times);
         opened.errors = std::move(compiled.errors);
-        opened.project = std::make_unique<VBProject>(document.projectName, FromUtf8(AbsolutePath(document.path)));
+        // A project of loose modules has no file: it is known by its folder, whose separator tells the difference.
+        Text fileName = FromUtf8(AbsolutePath(document.path));
+        if (!isDocument && !fileName.ends_with(u'/')) fileName += u'/';
+        opened.project = std::make_unique<VBProject>(document.projectName, std::move(fileName));
         for (std::size_t i = 0; i < document.modules.size(); ++i) {
             readers::SourceModule& module = document.modules[i];
             opened.origins.push_back({std::move(module.path), std::move(module.fileLines), std::move(module.header),

@@ -33,8 +33,8 @@ class StatementReader {
     TextView TakeName() {
         if (rest_.starts_with(u'[')) return rest_.substr(1, std::min(rest_.find(u']'), rest_.size()) - 1);
         // Outside of ASCII everything is part of a name: the code pages of the editor know letters that others do not.
-        const auto end = std::find_if_not(rest_.begin(), rest_.end(),
-                                          [](char16_t c) { return c >= 0x80 || IsWordCharacter(c); });
+        const auto end =
+            std::find_if_not(rest_.begin(), rest_.end(), [](char16_t c) { return c >= 0x80 || IsWordCharacter(c); });
         return rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
     }
 
@@ -93,21 +93,21 @@ bool IsProcedureEnd(TextView statement) {
     return reader.Take(u"End") && (reader.Take(u"Sub") || reader.Take(u"Function") || reader.Take(u"Property"));
 }
 
-bool IsBlankLine(TextView line) {
-    return std::all_of(line.begin(), line.end(), IsSpace);
+// The first character of a line that is no blank, 0 if there is none.
+char16_t FirstCharacter(TextView line) {
+    const auto first = std::find_if_not(line.begin(), line.end(), IsSpace);
+    return first == line.end() ? u'\0' : *first;
 }
 
 bool IsCommentLine(TextView line) {
-    const auto first = line.find_first_not_of(u" \t");
-    return first != TextView::npos && (line[first] == u'\'' || StatementReader(line).Take(u"Rem"));
+    const char16_t first = FirstCharacter(line);
+    return first == u'\'' || (FoldCase(first) == u'r' && StatementReader(line).Take(u"Rem"));
 }
 
 // The first letters that a header, an end of a procedure or a line number can have; most lines of a program are told
 // apart by them alone.
 bool MayBoundProcedure(TextView line) {
-    const auto first = line.find_first_not_of(u" \t");
-    if (first == TextView::npos) return false;
-    const char16_t c = FoldCase(line[first]);
+    const char16_t c = FoldCase(FirstCharacter(line));
     return c == u'e' || c == u'f' || c == u'g' || c == u'p' || c == u's' || (c >= u'0' && c <= u'9');
 }
 
@@ -154,7 +154,7 @@ class ExtentFinder {
 
     void VisitLogicalLine(int first, int last) {
         const TextView line = Text(first, last);
-        const bool severalStatements = open_ && line.find(u':') != TextView::npos;
+        const bool severalStatements = open_ && FindCharacter(line, 0, u':') < line.size();
         if (severalStatements || MayBoundProcedure(line)) {
             bool startsLine = true;
             ForEachStatementOf(line, [&](TextView statement) {
@@ -162,7 +162,7 @@ class ExtentFinder {
                 startsLine = false;
             });
         }
-        const bool declares = first != last || !IsBlankLine(line);
+        const bool declares = first != last || FirstCharacter(line) != u'\0';
         if (result_.procedures.empty() && declares) result_.declarationLines = last;
     }
 
@@ -220,8 +220,8 @@ class ExtentFinder {
 }  // namespace
 
 bool IsContinuedLine(TextView line) {
-    const auto last = line.find_last_not_of(u" \t");
-    return last != TextView::npos && last > 0 && line[last] == u'_' && IsSpace(line[last - 1]);
+    while (!line.empty() && IsSpace(line.back())) line.remove_suffix(1);
+    return line.size() > 1 && line.back() == u'_' && IsSpace(line[line.size() - 2]);
 }
 
 ModuleExtents FindExtents(TextView text, const std::vector<std::uint32_t>& lineStarts) {

@@ -11,10 +11,20 @@ constexpr std::size_t kNotFound = TextView::npos;
 
 std::vector<std::uint32_t> FindLineStarts(TextView text) {
     std::vector<std::uint32_t> starts{0};
-    for (auto end = text.find(u'\n'); end != TextView::npos; end = text.find(u'\n', end + 1)) {
+    for (auto end = FindCharacter(text, 0, u'\n'); end < text.size(); end = FindCharacter(text, end + 1, u'\n')) {
         starts.push_back(static_cast<std::uint32_t>(end) + 1);
     }
     return starts;
+}
+
+// Offset of `target` in text[from, to), or kNotFound.
+std::size_t FindText(TextView text, TextView target, std::size_t from, std::size_t to) {
+    const TextView searched = text.substr(0, to);
+    for (std::size_t i = FindCharacter(searched, from, target.front()); i + target.size() <= to;
+         i = FindCharacter(searched, i + 1, target.front())) {
+        if (searched.substr(i, target.size()) == target) return i;
+    }
+    return kNotFound;
 }
 
 bool HasCase(TextView target) {
@@ -114,8 +124,8 @@ std::size_t CodeModule::SearchText(TextView target, Bounds bounds, FindFlags fla
     const bool exact = flags.matchCase || !HasCase(target);
     for (std::size_t i = bounds.from; i + target.size() <= bounds.to; ++i) {
         if (exact) {
-            i = text.find(target, i);
-            if (i == kNotFound || i + target.size() > bounds.to) return kNotFound;
+            i = FindText(text, target, i, bounds.to);
+            if (i == kNotFound) return kNotFound;
         } else if (!EqualIgnoringCase(text.substr(i, target.size()), target)) {
             continue;
         }
@@ -129,8 +139,8 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
     const TextView text(text_);
     const TextView anchor = LeadingWord(target);
     if (anchor.empty()) {
-        for (std::size_t i = text.find(target, bounds.from); i != kNotFound; i = text.find(target, i + 1)) {
-            if (i + target.size() > bounds.to) return kNotFound;
+        for (std::size_t i = FindText(text, target, bounds.from, bounds.to); i != kNotFound;
+             i = FindText(text, target, i + 1, bounds.to)) {
             if (StandsFree(i, target.size(), continuesWord)) return i;
         }
         return kNotFound;

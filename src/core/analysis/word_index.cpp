@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace zentlor {
 
@@ -17,20 +18,21 @@ constexpr std::array<bool, 256> MakeIndexCharacters() {
 }
 constexpr std::array<bool, 256> kIndexCharacters = MakeIndexCharacters();
 
-std::uint32_t NextHash(std::uint32_t hash, char16_t c) {
-    return (hash ^ c) * 16777619U;
-}
-constexpr std::uint32_t kHashSeed = 2166136261U;
-
-// The upper half mixes best in this hash; the slot is taken from the lower one.
-std::uint32_t Finish(std::uint32_t hash) {
-    return hash ^ hash >> 15;
-}
-
+// Four characters at a time: a word is short, and a multiplication for each of its characters would be most of the
+// work.
 std::uint32_t HashOf(TextView word) {
-    std::uint32_t hash = kHashSeed;
-    for (const char16_t c : word) hash = NextHash(hash, c);
-    return Finish(hash);
+    constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
+    constexpr std::size_t kAtOnce = sizeof(std::uint64_t) / sizeof(char16_t);
+    std::uint64_t hash = word.size() * kMultiplier;
+    std::size_t i = 0;
+    for (std::uint64_t piece; i + kAtOnce <= word.size(); i += kAtOnce) {
+        std::memcpy(&piece, word.data() + i, sizeof piece);
+        hash = (hash ^ piece) * kMultiplier;
+        hash ^= hash >> 32;
+    }
+    for (; i < word.size(); ++i) hash = (hash << 16) ^ (hash >> 48) ^ word[i];
+    hash *= kMultiplier;
+    return static_cast<std::uint32_t>(hash >> 32);
 }
 
 constexpr std::uint32_t kNoWord = 0xFFFFFFFF;
@@ -59,11 +61,9 @@ WordIndex::WordIndex(const std::vector<TextView>& texts) : slots_(1024, Slot{{},
                 continue;
             }
             const std::size_t begin = i;
-            std::uint32_t hash = kHashSeed;
-            for (; i < size && IsIndexCharacter(text[i]); ++i) hash = NextHash(hash, text[i]);
+            while (i < size && IsIndexCharacter(text[i])) ++i;
             const TextView word = text.substr(begin, i - begin);
-            Slot& slot = SlotOf(word, Finish(hash));
-            occurrences.push_back({slot.id, static_cast<std::uint32_t>(begin)});
+            occurrences.push_back({SlotOf(word, HashOf(word)).id, static_cast<std::uint32_t>(begin)});
         }
         moduleEnds.push_back(occurrences.size());
     }

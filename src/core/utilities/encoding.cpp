@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace zentlor {
 
@@ -59,9 +60,13 @@ void Append(Text& text, std::uint32_t codePoint) {
 }
 
 std::size_t AsciiRun(std::string_view bytes, std::size_t from) {
-    const auto end = std::find_if(bytes.begin() + static_cast<std::ptrdiff_t>(from), bytes.end(),
-                                  [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
-    return static_cast<std::size_t>(end - bytes.begin());
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    for (std::uint64_t eight; from + sizeof eight <= bytes.size(); from += sizeof eight) {
+        std::memcpy(&eight, bytes.data() + from, sizeof eight);
+        if ((eight & kHighBits) != 0) break;
+    }
+    while (from < bytes.size() && static_cast<unsigned char>(bytes[from]) < 0x80) ++from;
+    return from;
 }
 
 // The shared loop: plain ASCII is copied in runs, and `onMalformed` says whether to go on behind a malformed byte.
@@ -140,11 +145,13 @@ Text FromUtf16Be(std::string_view bytes) {
 }
 
 Text FromWindows1252(std::string_view bytes) {
+    // All but the upper control characters have the number of their byte.
     Text text(bytes.size(), u'\0');
-    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) {
-        const auto c = static_cast<unsigned char>(byte);
-        return c >= 0x80 && c < 0xA0 ? kUpperControls[c - 0x80U] : static_cast<char16_t>(c);
-    });
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char byte) { return static_cast<char16_t>(static_cast<unsigned char>(byte)); });
+    for (std::size_t i = AsciiRun(bytes, 0); i < bytes.size(); i = AsciiRun(bytes, i + 1)) {
+        if (text[i] < 0xA0) text[i] = kUpperControls[text[i] - 0x80U];
+    }
     return text;
 }
 

@@ -1,6 +1,8 @@
 #include "core/utilities/text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace zentlor {
 
@@ -46,8 +48,8 @@ int InStr(int start, TextView text, TextView needle) {
 }
 
 int InStr(int start, TextView text, char16_t needle) {
-    const auto found = text.find(needle, static_cast<std::size_t>(std::max(start, 1) - 1));
-    return found == TextView::npos ? 0 : static_cast<int>(found) + 1;
+    const std::size_t found = FindCharacter(text, static_cast<std::size_t>(std::max(start, 1) - 1), needle);
+    return found == text.size() ? 0 : static_cast<int>(found) + 1;
 }
 
 TextView Mid(TextView text, int start, int length) {
@@ -57,6 +59,23 @@ TextView Mid(TextView text, int start, int length) {
 
 TextView Mid(TextView text, int start) {
     return Mid(text, start, Len(text));
+}
+
+std::size_t FindCharacter(TextView text, std::size_t from, char16_t wanted) {
+    constexpr std::uint64_t kOnes = 0x0001000100010001;
+    constexpr std::uint64_t kHighBits = 0x8000800080008000;
+    constexpr std::size_t kAtOnce = sizeof(std::uint64_t) / sizeof(char16_t);
+    const std::uint64_t pattern = kOnes * wanted;
+    std::size_t i = from;
+    for (; i + kAtOnce <= text.size(); i += kAtOnce) {
+        std::uint64_t four;
+        std::memcpy(&four, text.data() + i, sizeof four);
+        // A character that equals the wanted one is 0 behind the exclusive or, and borrows from its highest bit.
+        const std::uint64_t different = four ^ pattern;
+        if (((different - kOnes) & ~different & kHighBits) != 0) break;
+    }
+    while (i < text.size() && text[i] != wanted) ++i;
+    return std::min(i, text.size());
 }
 
 Text ToText(long long number) {

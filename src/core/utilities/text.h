@@ -33,6 +33,10 @@ inline int Len(TextView text) {
     return static_cast<int>(text.size());
 }
 
+/// Offset of the first `wanted` at or behind offset `from`, or the text's size. The searches over whole modules rest on
+/// it, so it looks at several characters at a time.
+std::size_t FindCharacter(TextView text, std::size_t from, char16_t wanted);
+
 /// `number` in decimal, without blanks.
 Text ToText(long long number);
 
