@@ -164,6 +164,7 @@ class ProjectReader {
             if (undecodableIn_.empty()) undecodableIn_ = module.name;
         }
         StrippedCode code = StripAttributes(text.text);
+        text = {};
         project_.modules.push_back({module.name,
                                     TypeOf(module, code),
                                     path_,
@@ -171,7 +172,6 @@ class ProjectReader {
                                     {},
                                     std::move(code.header),
                                     std::move(code.innerAttributes)});
-        project_.modules.back().code.shrink_to_fit();
     }
 
     ModuleType TypeOf(const OvbaDirModule& module, const StrippedCode& code) const {
