@@ -215,7 +215,7 @@ TEST(Index, HoldsManyWords) {
     const VBComponent& b = project.Add(u"B", 1, u"w4999\n");
     EXPECT_EQ(project.Words().PlacesOf(u"w0").size(), 1U);
     ASSERT_EQ(project.Words().PlacesOf(u"w4999").size(), 2U);
-    EXPECT_EQ(project.Words().PlacesOf(u"w4999")[1].Module(), b.Index());
+    EXPECT_EQ(project.Words().ModuleOf(project.Words().PlacesOf(u"w4999")[1]), b.Index());
     EXPECT_EQ(project.Words().PlacesOf(u"w5000").size(), 0U);
 }
 

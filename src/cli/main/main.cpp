@@ -4,9 +4,11 @@
 #include <exception>
 
 #include "cli/commands.h"
+#include "cli/heap.h"
 
 int main(int argc, char** argv) {
     using namespace zentlor::cli;
+    PrepareHeap();
     try {
         const ParseResult parsed = ParseArguments(argc, argv);
         return parsed.arguments ? Run(*parsed.arguments) : parsed.exitCode;

@@ -146,8 +146,9 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
         return kNotFound;
     }
     const WordIndex& words = component_.Project().Words();
+    const Place start = words.StartOf(component_.Index());
     for (const Place place : words.PlacesOf(anchor, component_.Index(), bounds.from)) {
-        const std::size_t offset = place.Offset();
+        const std::size_t offset = place - start;
         if (offset + target.size() > bounds.to) return kNotFound;
         const bool equal = anchor.size() == target.size() || text.substr(offset, target.size()) == target;
         if (equal && StandsFree(offset, target.size(), continuesWord)) return offset;

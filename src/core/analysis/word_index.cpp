@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <stdexcept>
 
 namespace zentlor {
 
@@ -44,28 +45,30 @@ bool IsIndexCharacter(char16_t c) {
 }
 
 WordIndex::WordIndex(const std::vector<TextView>& texts) : slots_(1024, Slot{{}, kNoWord}) {
+    std::uint64_t characters = 0;
+    for (const TextView text : texts) {
+        moduleStarts_.push_back(static_cast<Place>(characters));
+        characters += text.size();
+        if (characters > 0xFFFFFFFF) throw std::length_error("the project's text is too long to be indexed");
+    }
+    moduleStarts_.push_back(static_cast<Place>(characters));
+
     struct Occurrence {
         std::uint32_t id;
-        std::uint32_t offset;
+        Place place;
     };
     std::vector<Occurrence> occurrences;
-    std::vector<std::size_t> moduleEnds;
-    std::size_t characters = 0;
-    for (const TextView text : texts) characters += text.size();
-    occurrences.reserve(characters / 6);
-    for (const TextView text : texts) {
-        const std::size_t size = text.size();
-        for (std::size_t i = 0; i < size;) {
-            if (!IsIndexCharacter(text[i])) {
-                ++i;
-                continue;
-            }
+    constexpr std::uint64_t kCharactersPerWord = 6;
+    occurrences.reserve(characters / kCharactersPerWord);
+    for (std::size_t module = 0; module < texts.size(); ++module) {
+        const TextView text = texts[module];
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            if (!IsIndexCharacter(text[i])) continue;
             const std::size_t begin = i;
-            while (i < size && IsIndexCharacter(text[i])) ++i;
+            while (i < text.size() && IsIndexCharacter(text[i])) ++i;
             const TextView word = text.substr(begin, i - begin);
-            occurrences.push_back({SlotOf(word, HashOf(word)).id, static_cast<std::uint32_t>(begin)});
+            occurrences.push_back({SlotOf(word, HashOf(word)).id, moduleStarts_[module] + static_cast<Place>(begin)});
         }
-        moduleEnds.push_back(occurrences.size());
     }
 
     // Counting sort by word: stable, so the places of each word come out in order.
@@ -74,13 +77,7 @@ WordIndex::WordIndex(const std::vector<TextView>& texts) : slots_(1024, Slot{{},
     for (std::size_t id = 0; id < words_; ++id) starts_[id + 1] += starts_[id];
     std::vector<std::uint32_t> next(starts_.begin(), starts_.end() - 1);
     places_.resize(occurrences.size());
-    std::size_t k = 0;
-    for (std::size_t module = 0; module < moduleEnds.size(); ++module) {
-        for (; k < moduleEnds[module]; ++k) {
-            const Occurrence& o = occurrences[k];
-            places_[next[o.id]++] = Place::Of(static_cast<std::uint32_t>(module), o.offset);
-        }
-    }
+    for (const Occurrence& o : occurrences) places_[next[o.id]++] = o.place;
 }
 
 WordIndex::Slot& WordIndex::SlotOf(TextView word, std::uint32_t hash) {
@@ -121,11 +118,16 @@ std::span<const Place> WordIndex::PlacesOf(TextView word) const {
     return {};
 }
 
-std::span<const Place> WordIndex::PlacesOf(TextView word, std::uint32_t module, std::uint32_t fromOffset) const {
+std::span<const Place> WordIndex::PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const {
     const std::span<const Place> all = PlacesOf(word);
-    const auto first = std::lower_bound(all.begin(), all.end(), Place::Of(module, fromOffset));
-    const auto last = std::lower_bound(first, all.end(), Place::Of(module + 1, 0));
+    const auto first = std::lower_bound(all.begin(), all.end(), moduleStarts_[module] + fromOffset);
+    const auto last = std::lower_bound(first, all.end(), moduleStarts_[module + 1]);
     return {first, last};
+}
+
+std::size_t WordIndex::ModuleOf(Place place) const {
+    const auto behind = std::upper_bound(moduleStarts_.begin(), moduleStarts_.end() - 1, place);
+    return static_cast<std::size_t>(behind - moduleStarts_.begin()) - 1;
 }
 
 }  // namespace zentlor

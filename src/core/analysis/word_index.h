@@ -16,27 +16,26 @@ namespace zentlor {
 /// answer both; the characters in which the two differ lie beside a run, and the searches look at them there.
 bool IsIndexCharacter(char16_t c);
 
-/// A place in a project: the module's number, counted from 0, and the offset in its text, in one ordered number.
-struct Place {
-    std::uint64_t value;
-
-    static Place Of(std::uint32_t module, std::uint32_t offset) { return {std::uint64_t{module} << 32 | offset}; }
-    std::uint32_t Module() const { return static_cast<std::uint32_t>(value >> 32); }
-    std::uint32_t Offset() const { return static_cast<std::uint32_t>(value); }
-    auto operator<=>(const Place&) const = default;
-};
+/// A place in a project: the offset in the texts of all modules, one behind the other.
+using Place = std::uint32_t;
 
 class WordIndex {
   public:
-    /// Reads the words of `texts`, one text a module. The index holds views of them.
+    /// Reads the words of `texts`, one text a module. The index holds views of them. Throws std::length_error for texts
+    /// of 2^32 characters and more.
     explicit WordIndex(const std::vector<TextView>& texts);
 
     /// Every place of `word`, in order of modules and of text; empty for a word that occurs nowhere or that has other
     /// characters than those of the index.
     std::span<const Place> PlacesOf(TextView word) const;
 
-    /// The part of PlacesOf(word) in one module, from an offset on.
-    std::span<const Place> PlacesOf(TextView word, std::uint32_t module, std::uint32_t fromOffset) const;
+    /// The part of PlacesOf(word) in one module, from an offset in its text on.
+    std::span<const Place> PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const;
+
+    /// The number of the module, counted from 0, that holds a place.
+    std::size_t ModuleOf(Place place) const;
+    /// Where the text of a module begins; one behind the last module, where it ends.
+    Place StartOf(std::size_t module) const { return moduleStarts_[module]; }
 
   private:
     struct Slot {
@@ -49,6 +48,7 @@ class WordIndex {
 
     std::vector<Slot> slots_;  ///< open addressing, a power of two
     std::uint32_t words_ = 0;
+    std::vector<Place> moduleStarts_;
     std::vector<std::uint32_t> starts_;  ///< by id: where its places begin in places_
     std::vector<Place> places_;
 };

@@ -47,11 +47,12 @@ int SweepProject(const VBProject& project, TextView strAusdruck, UseIn useIn) {
         }
         return result;
     }
-    const std::span<const Place> places = project.Words().PlacesOf(anchor);
+    const WordIndex& words = project.Words();
+    const std::span<const Place> places = words.PlacesOf(anchor);
     for (auto place = places.begin(); place != places.end() && result != kUsed;) {
-        const std::uint32_t module = place->Module();
+        const std::size_t module = words.ModuleOf(*place);
         result = std::max(result, useIn(*components[module]));
-        place = std::lower_bound(place, places.end(), Place::Of(module + 1, 0));
+        place = std::lower_bound(place, places.end(), words.StartOf(module + 1));
     }
     return result;
 }
