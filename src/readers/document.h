@@ -31,8 +31,8 @@ struct SourceModule {
     Text code;
     /// For every line of `code` the line of the file that it was read from, counted from 1. Empty: the two are equal.
     std::vector<std::uint32_t> fileLines;
-    /// What an export has to give back beside the code: the header (`VERSION` … `END`) with the `Attribute` lines at the
-    /// top, their lines ended by LF, and the `Attribute` lines inside of the code.
+    /// What an export has to give back beside the code: the header (`VERSION` … `END`) with the `Attribute` lines at
+    /// the top, their lines ended by LF, and the `Attribute` lines inside of the code.
     Text header;
     std::vector<HiddenLine> innerAttributes;
 };
