@@ -104,11 +104,14 @@ bool IsCommentLine(TextView line) {
     return first == u'\'' || (FoldCase(first) == u'r' && StatementReader(line).Take(u"Rem"));
 }
 
-// The first letters that a header, an end of a procedure or a line number can have; most lines of a program are told
-// apart by them alone.
-bool MayBoundProcedure(TextView line) {
-    const char16_t c = FoldCase(FirstCharacter(line));
-    return c == u'e' || c == u'f' || c == u'g' || c == u'p' || c == u's' || (c >= u'0' && c <= u'9');
+// The first letters of words in front of which a procedure begins, and of those with which a line can end one; most
+// lines of a program are told apart by them alone.
+bool MayBeHeader(char16_t first) {
+    const char16_t c = FoldCase(first);
+    return c == u'f' || c == u'g' || c == u'p' || c == u's';
+}
+bool MayEndProcedure(char16_t first) {
+    return FoldCase(first) == u'e' || (first >= u'0' && first <= u'9');
 }
 
 // Walks the statements of one logical line; colons in strings separate nothing, and a comment ends the line.
@@ -154,15 +157,17 @@ class ExtentFinder {
 
     void VisitLogicalLine(int first, int last) {
         const TextView line = Text(first, last);
-        const bool severalStatements = open_ && FindCharacter(line, 0, u':') < line.size();
-        if (severalStatements || MayBoundProcedure(line)) {
+        const char16_t firstCharacter = FirstCharacter(line);
+        const bool bounds = open_ ? MayEndProcedure(firstCharacter) || FindCharacter(line, 0, u':') < line.size()
+                                  : MayBeHeader(firstCharacter);
+        if (bounds) {
             bool startsLine = true;
             ForEachStatementOf(line, [&](TextView statement) {
                 VisitStatement(first, last, statement, startsLine);
                 startsLine = false;
             });
         }
-        const bool declares = first != last || FirstCharacter(line) != u'\0';
+        const bool declares = first != last || firstCharacter != u'\0';
         if (result_.procedures.empty() && declares) result_.declarationLines = last;
     }
 
