@@ -127,12 +127,22 @@ TEST(HostileOffice, ReadsTenThousandModulesInTheirOrder) {
 }
 
 TEST(HostileOffice, RefusesStoragesWithoutEnd) {
-    const auto nested = [](int depth) {
+    // Written side by side and linked one below the other afterwards: neither writer nor tree is recursive then.
+    const auto nested = [](std::uint32_t depth) {
+        constexpr std::uint32_t kNone = 0xFFFFFFFF;
         StorageTree tree;
         tree.Put(u"WordDocument", "x");
-        StorageTree* at = &tree;
-        for (int i = 0; i < depth; ++i) at = &at->Below(u"s");
-        return test::WriteCompoundFile(tree).bytes;
+        for (std::uint32_t i = 0; i < depth; ++i) tree.storages.push_back({u"s" + ToText(i), {}});
+        CompoundFile file = test::WriteCompoundFile(tree, {true, true});
+        const auto link = [&](std::uint32_t entry, std::uint32_t right, std::uint32_t child) {
+            test::Set32(file.bytes, file.directory + 128 * entry + 68, kNone);
+            test::Set32(file.bytes, file.directory + 128 * entry + 72, right);
+            test::Set32(file.bytes, file.directory + 128 * entry + 76, child);
+        };
+        link(0, kNone, 1);
+        link(1, 2, kNone);
+        for (std::uint32_t i = 2; i <= depth + 1; ++i) link(i, kNone, i <= depth ? i + 1 : kNone);
+        return file.bytes;
     };
     ExpectVerdict(Verdict(nested(16)), "0 modules", "as deep as allowed");
     ExpectVerdict(Verdict(nested(17)), "--max-storage-depth", "one too deep");
