@@ -8,12 +8,6 @@
 
 #include "readers/office_document.h"
 
-// The container library gives up some memory when it gives up a damaged file. That is bounded by the file, and not
-// ours.
-extern "C" const char* __asan_default_options() {
-    return "detect_leaks=0";
-}
-
 namespace zentlor::fuzz {
 
 /// Reads the document with `signature` put in front, since one without it is turned away at once.

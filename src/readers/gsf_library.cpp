@@ -31,8 +31,9 @@ void StartGsf() {
     static std::once_flag once;
     std::call_once(once, [] {
         gsf_init();
-        // Some of its complaints come without a name.
-        for (const char* domain : {"libgsf", "libgsf:msole", "libgsf:zip", static_cast<const char*>(nullptr)}) {
+        // Some of its complaints come without a name, some in that of the library below it.
+        for (const char* domain :
+             {"libgsf", "libgsf:msole", "libgsf:zip", "GLib", "GLib-GObject", static_cast<const char*>(nullptr)}) {
             g_log_set_handler(domain, static_cast<GLogLevelFlags>(G_LOG_LEVEL_MASK | G_LOG_FLAG_RECURSION), Swallow,
                               nullptr);
         }

@@ -158,6 +158,18 @@ TEST(Zip, SaysWhereAPartIsDamaged) {
     }
 }
 
+TEST(Zip, LetsTheLibraryComplainToNobody) {
+    std::string bytes = WriteZip({{"erster", ""}, {"teil", "inhalt"}});
+    // A date that is none, and a part without a head.
+    test::Set32(bytes, bytes.find("PK\1\2") + 12, 0xFFFFFFFF);
+    bytes[bytes.find("PK\3\4", 4) + 2] = 'X';
+    testing::internal::CaptureStderr();
+    const auto zip = OpenZip(bytes, "x", {});
+    ASSERT_TRUE(zip);
+    for (std::size_t i = 0; i < zip->Parts().size(); ++i) zip->Read(i, 100);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST(Zip, RefusesDirectoriesThatNoOfficeProgramWrites) {
     const std::string good = WriteZip({{"teil", "inhalt"}});
     ASSERT_TRUE(ReadZipDirectory(good, 10).sound);
