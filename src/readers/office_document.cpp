@@ -19,7 +19,7 @@ namespace zentlor::readers {
 namespace {
 
 constexpr std::uint64_t kMiB = 1 << 20;
-constexpr std::uint64_t kHeadBytes = 64 * 1024;
+constexpr std::uint64_t kHeadBytes = 1 << 16;
 
 // A bound that a small file does not get all of, so that memory stays in proportion to the file.
 std::uint64_t InProportion(std::uint64_t bound, std::uint64_t part, std::uint64_t times, std::uint64_t fileBytes) {

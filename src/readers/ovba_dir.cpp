@@ -75,8 +75,6 @@ class DirParser {
                 reference_ = Unicode(data);
                 break;
             case kRegisteredReference:
-                AddReference(BytesAt(data, 4, U32At(data, 0)));
-                break;
             case kProjectReference:
                 AddReference(BytesAt(data, 4, U32At(data, 0)));
                 break;

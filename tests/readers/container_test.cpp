@@ -111,7 +111,7 @@ TEST(CompoundFile, GivesTheBytesInFrontOfDamage) {
     tree.Put(u"lang", std::string(5000, 'a') + std::string(5000, 'b'));
     const CompoundFile file = WriteCompoundFile(tree);
     std::string bytes = file.bytes;
-    test::Set32(bytes, file.fat + 4 * 15, 0xFFFFFFFE);  // the chain of twenty sectors ends behind sixteen
+    test::Set32(bytes, file.fat + 4ull * 15, 0xFFFFFFFE);  // the chain of twenty sectors ends behind sixteen
     const auto root = OpenCompoundFile(bytes, "x");
     ASSERT_TRUE(root);
     bool damaged = false;
@@ -188,6 +188,7 @@ TEST(Zip, RefusesDirectoriesThatNoOfficeProgramWrites) {
 
 TEST(Zip, CountsPartsBeforeItUnpacksAny) {
     std::vector<test::ZipTestPart> parts;
+    parts.reserve(20);
     for (int i = 0; i < 20; ++i) parts.push_back({"p" + std::to_string(i), ""});
     const std::string bytes = WriteZip(parts);
     Limits limits;

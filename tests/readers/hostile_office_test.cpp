@@ -76,10 +76,10 @@ TEST(HostileOffice, EndsChainsThatRunInCircles) {
         const char* verdict;
     };
     const Row rows[] = {
-        {"sectors of a stream", good.fat + 4 * (large + 3), large, "1 modules"},
-        {"a sector that follows itself", good.fat + 4 * large, large, "1 modules"},
-        {"small sectors", good.miniFat + 4 * (small + 2), small, "1 modules"},
-        {"sectors of the directory", good.fat + 4 * directory, directory, "is damaged or cut off"},
+        {"sectors of a stream", good.fat + 4ull * (large + 3), large, "1 modules"},
+        {"a sector that follows itself", good.fat + 4ull * large, large, "1 modules"},
+        {"small sectors", good.miniFat + 4ull * (small + 2), small, "1 modules"},
+        {"sectors of the directory", good.fat + 4ull * directory, directory, "is damaged or cut off"},
         {"a table of tables", 0x44, directory, "2 modules"},
     };
     for (const Row& row : rows) {
@@ -103,7 +103,7 @@ TEST(HostileOffice, EndsDirectoriesThatRunInCircles) {
         {"an entry left of itself", entry + 68, number},
         {"an entry right of itself", entry + 72, number},
         {"the storage among its own streams", entry + 72, vba},
-        {"a storage in itself", good.directory + 128 * vba + 76, vba},
+        {"a storage in itself", good.directory + 128ull * vba + 76, vba},
         {"the root below itself", good.directory + 76, 0},
         {"an entry outside of the directory", entry + 68, 4711},
         {"a project that nothing leads to", good.directory + 76, 0xFFFFFFFF},
@@ -135,9 +135,9 @@ TEST(HostileOffice, RefusesStoragesWithoutEnd) {
         for (std::uint32_t i = 0; i < depth; ++i) tree.storages.push_back({u"s" + ToText(i), {}});
         CompoundFile file = test::WriteCompoundFile(tree, {true, true});
         const auto link = [&](std::uint32_t entry, std::uint32_t right, std::uint32_t child) {
-            test::Set32(file.bytes, file.directory + 128 * entry + 68, kNone);
-            test::Set32(file.bytes, file.directory + 128 * entry + 72, right);
-            test::Set32(file.bytes, file.directory + 128 * entry + 76, child);
+            test::Set32(file.bytes, file.directory + 128ull * entry + 68, kNone);
+            test::Set32(file.bytes, file.directory + 128ull * entry + 72, right);
+            test::Set32(file.bytes, file.directory + 128ull * entry + 76, child);
         };
         link(0, kNone, 1);
         link(1, 2, kNone);

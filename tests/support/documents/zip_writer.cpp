@@ -44,16 +44,16 @@ std::string WriteZip(const std::vector<ZipTestPart>& parts) {
     for (const ZipTestPart& part : parts) {
         const std::string packed = part.deflated ? Deflate(part.bytes, false) : part.bytes;
         const std::string head = CommonHead(part, packed);
-        directory += std::string("PK\1\2\x14\0", 6) + head;
+        directory.append("PK\1\2\x14\0", 6).append(head);
         Put32(directory, 0);  // comment's length, disk
         Put16(directory, 0);
         Put32(directory, 0);
         Put32(directory, static_cast<std::uint32_t>(zip.size()));
         directory += part.name;
-        zip += "PK\3\4" + head + part.name + packed;
+        zip.append("PK\3\4").append(head).append(part.name).append(packed);
     }
     const std::size_t start = zip.size();
-    zip += directory + std::string("PK\5\6\0\0\0\0", 8);
+    zip.append(directory).append("PK\5\6\0\0\0\0", 8);
     Put16(zip, static_cast<std::uint32_t>(parts.size()));
     Put16(zip, static_cast<std::uint32_t>(parts.size()));
     Put32(zip, static_cast<std::uint32_t>(directory.size()));
