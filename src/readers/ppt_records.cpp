@@ -16,6 +16,8 @@ namespace {
 constexpr std::uint16_t kEmbeddedStorage = 0x1011;
 constexpr std::size_t kHeadBytes = 8;
 constexpr std::size_t kMaximumStorages = 1000;
+// No deflated data unpack to more than this many times their size.
+constexpr std::uint64_t kHighestRatio = 1032;
 
 }  // namespace
 
@@ -27,7 +29,7 @@ std::string InflateLeniently(std::string_view packed, std::uint64_t maximum) {
     stream.avail_in = static_cast<uInt>(std::min<std::size_t>(packed.size(), 0x7FFFFFFF));
     char buffer[16384];
     // Growing by doubling would hold up to three times the bytes; what is reserved and never written costs nothing.
-    out.reserve(maximum);
+    out.reserve(std::min<std::uint64_t>(maximum, kHighestRatio * packed.size()));
     int status = Z_OK;
     while (status == Z_OK && out.size() < maximum) {
         stream.next_out = reinterpret_cast<Bytef*>(buffer);
