@@ -204,7 +204,7 @@ Text FileDialog::ParseAuswahl(TextView strAuswahl, bool blnInitial) {
 }
 
 Text FileDialog::FirstOfSelection(TextView strAuswahl) {
-    const Text first = UpToNul(strAuswahl);
+    Text first = UpToNul(strAuswahl);
     const TextView behind = strAuswahl.substr(first.size() + 1);
     if (behind.starts_with(kNul)) {
         intFileCount_ = 1;
