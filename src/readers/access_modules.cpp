@@ -4,13 +4,12 @@
 
 #include "readers/access_modules.h"
 
-#include <algorithm>
 #include <map>
 #include <string_view>
 
 #include "core/utilities/encoding.h"
 #include "readers/byte_reader.h"
-#include "readers/code_page.h"
+#include "readers/folded_name.h"
 #include "readers/jet_table.h"
 #include "readers/jet_value.h"
 
@@ -34,12 +33,6 @@ struct ModuleRows {
     /// By folded name.
     std::map<Text, ModuleRow, std::less<>> modules;
 };
-
-Text Folded(TextView name) {
-    Text folded(name);
-    std::ranges::transform(folded, folded.begin(), FoldCase);
-    return folded;
-}
 
 ModuleRows ReadRows(JetFile& file, const JetTable& table) {
     ModuleRows rows;
@@ -109,14 +102,14 @@ std::optional<OvbaProject> ReadAccessModules(JetFile& file, const JetCatalog& ca
     const ModuleRows rows = ReadRows(file, *table);
     if (!rows.project && rows.modules.empty()) return std::nullopt;
     const std::string projectEntries =
-        rows.project ? JetLongValue(rows.project->entries, file, limits.moduleBytes) : std::string{};
+        rows.project ? JetLongValue(rows.project->entries, file, limits.sourceBytes) : std::string{};
     const std::string dir = FindEntry(projectEntries, u"dir").value_or(std::string{});
     OvbaSource source;
     source.dir = dir;
     source.moduleStream = [&](const OvbaDirModule& module) -> std::optional<std::string> {
         const ModuleRow* row = FindRow(rows, module.name);
         if (!row) return std::nullopt;
-        return FindEntry(JetLongValue(row->entries, file, 2 * limits.moduleBytes), module.streamName);
+        return FindEntry(JetLongValue(row->entries, file, limits.sourceBytes), module.streamName);
     };
     OvbaProject project = ReadOvbaProject(source, path, limits);
     SetTypes(rows, project);

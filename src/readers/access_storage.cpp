@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "readers/byte_reader.h"
+#include "readers/folded_name.h"
 #include "readers/jet_value.h"
 
 namespace zentlor::readers {
@@ -21,12 +22,6 @@ constexpr TextView kRootName = u"MSysAccessStorage_ROOT";
 constexpr std::uint32_t kTypeStorage = 1;
 /// A compound file may be larger than the rows that are left of it by its missing zeros, but not by much.
 constexpr std::uint64_t kSpareBytes = 1 << 20;
-
-Text Folded(TextView name) {
-    Text folded(name);
-    std::ranges::transform(folded, folded.begin(), FoldCase);
-    return folded;
-}
 
 struct Node {
     std::uint32_t id = 0;
