@@ -195,6 +195,7 @@ void MainWindow::ShowErrors() {
     errorDock_->setVisible(errorModel_.rowCount() > 0);
     if (errorModel_.rowCount() == 0) return;
     errorDock_->raise();
+    resizeDocks({errorDock_}, {width() / 2}, Qt::Horizontal);
     errors_->setCurrentIndex(errorModel_.index(0, 0));
     errors_->setFocus();
 }

@@ -55,7 +55,7 @@ QString InTwoLines(QString text) {
 int IndicatorRoom(const QWidget& box) {
     const QStyle& style = *box.style();
     return style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &box) +
-           style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &box) + 4;
+           style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &box) + 8;
 }
 
 }  // namespace

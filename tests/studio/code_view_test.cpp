@@ -13,7 +13,8 @@ std::string Coloured(TextView code, std::size_t line) {
     std::size_t start = 0;
     for (std::size_t i = 1; i < line; ++i) start = code.find(u'\n', start) + 1;
     std::string shown;
-    for (const Stretch& stretch : ColourStretches(code).at(line - 1)) {
+    const std::vector<std::vector<Stretch>> lines = ColourStretches(code);
+    for (const Stretch& stretch : lines.at(line - 1)) {
         const TextView text =
             code.substr(start + static_cast<std::size_t>(stretch.start), static_cast<std::size_t>(stretch.length));
         shown += kLetters[static_cast<std::size_t>(stretch.colour)] + ("[" + ToUtf8(text) + "]");
