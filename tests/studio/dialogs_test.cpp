@@ -62,6 +62,9 @@ TEST_F(DialogsTest, OptionsExplainTheBoxUnderThePointerAndInFocus) {
         const QString general = options.ExplanationText();
         MovePointer(options.Box(CheckId::ModLeer), QPoint(5, 5));
         const QString first = options.ExplanationText();
+        // Only the active window gives the focus away, and it becomes active in its own time.
+        dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
         options.Box(CheckId::ModDeklarationAsAny).setFocus();
         const QString second = options.ExplanationText();
         // Beside an absent file every box has the general text.
