@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 
 #include "cli/words.h"
 #include "core/options/option_store.h"
@@ -15,6 +16,25 @@
 #include "workspace/settings_file.h"
 
 namespace zentlor::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The path beside `path` whose name is most like it, for a path that does not exist; empty if there is none.
+std::string NearestPath(const std::string& path) {
+    const fs::path parent = fs::path(path).parent_path();
+    std::vector<std::string> names;
+    std::error_code error;
+    fs::directory_iterator entry(parent.empty() ? fs::path(".") : parent, error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        names.push_back(entry->path().filename().string());
+    }
+    const std::string nearest = NearestWord(fs::path(path).filename().string(), names);
+    return nearest.empty() ? std::string() : (parent / nearest).string();
+}
+
+}  // namespace
 
 int Run(const Arguments& arguments) {
     switch (arguments.verb) {
@@ -43,6 +63,12 @@ int LanguageOf(const Arguments& arguments) {
 void PrintTroubles(const workspace::Workspace& opened, int sprache) {
     for (const workspace::Unreadable& unreadable : opened.unreadable) {
         fmt::print(stderr, "{}\n", Printable(InLanguage(unreadable.sentence, sprache)));
+        if (unreadable.failure != readers::ReadFailure::NotFound) continue;
+        const std::string nearest = NearestPath(unreadable.path);
+        if (nearest.empty()) continue;
+        fmt::print(
+            stderr, "{}\n",
+            Say(sprache, "Am ähnlichsten ist „[%1]“.", "The most similar path is “[%1]”.", {Printable(nearest)}));
     }
     for (const readers::Sentence& problem : opened.problems) {
         fmt::print(stderr, "{}\n", Printable(InLanguage(problem, sprache)));

@@ -81,6 +81,7 @@ TEST_F(Program, StatusTellsHowItWent) {
         {"does not compile, checked all the same", "check " + broken + " --isolated --uncompiled", 1, "broken.bas:"},
         {"no such path", "check /nirgends --isolated", 2, "/nirgends"},
         {"one bad path among good ones", "check " + clean + " /nirgends --isolated", 2, "/nirgends"},
+        {"a path that is nearly right", "check examples/kundne --isolated", 2, "„examples/kunden“"},
         {"no such check", "check . --only ModLeere", 2, "did you mean \"ModLeer\""},
         {"no such component", "check " + clean + " --isolated --component Saubr", 2, "„Sauber“"},
         {"no such language", "check . --language fr", 2, "fr"},
