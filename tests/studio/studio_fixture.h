@@ -40,7 +40,7 @@ class StudioTest : public testing::Test {
         studio_->Start({});
     }
 
-    std::string SettingsPath() const { return folder_.filePath(QStringLiteral("settings.ini")).toStdString(); }
+    std::string SettingsPath() const { return settingsFolder_.filePath(QStringLiteral("settings.ini")).toStdString(); }
 
     /// Ends the program and starts it again, with the same settings.
     void Restart() {
@@ -103,6 +103,8 @@ class StudioTest : public testing::Test {
     QStringList boxes;
 
     QTemporaryDir folder_;
+    /// Beside it: what is opened is watched, and a settings file in it would be a change.
+    QTemporaryDir settingsFolder_;
     std::unique_ptr<Studio> studio_;
 
   private:
