@@ -39,7 +39,8 @@ std::ptrdiff_t LineEnds(const zentlor::Text& code) {
 // Nothing that a module holds may make a check fail: a failure report is a finding like a crash.
 void RunChecks(const std::vector<SourceModule>& modules) {
     zentlor::test::FakeHost host;
-    for (const SourceModule& module : modules) host.project->Add(module.name, module.type, module.code);
+    for (const SourceModule& module : modules)
+        host.project->Add(module.name, static_cast<int>(module.type), module.code);
     zentlor::Session session(host.AsHost());
     session.udtOptionen = zentlor::OptionRecord::AllOn();
     const zentlor::RunResult result = zentlor::AlleModulePrüfen(session);
