@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QElapsedTimer>
 #include <memory>
 
 #include "studio/event_trace.h"
@@ -21,6 +22,8 @@ QCommandLineOption Hidden(const QString& name, const QString& value) {
 }  // namespace
 
 int RunStudio(QApplication& application) {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     QApplication::setApplicationName(QStringLiteral("zentlor-studio"));
     QApplication::setApplicationDisplayName(QStringLiteral("Zentlor"));
     QApplication::setApplicationVersion(QStringLiteral(ZENTLOR_VERSION));
@@ -42,7 +45,7 @@ int RunStudio(QApplication& application) {
     if (parser.isSet(shots)) return TakeShots(parser.value(shots));
 
     Studio studio(workspace::DefaultSettingsPath());
-    const auto eventTrace = parser.isSet(trace) ? std::make_unique<EventTrace>(studio) : nullptr;
+    const auto eventTrace = parser.isSet(trace) ? std::make_unique<EventTrace>(studio, sinceStart) : nullptr;
     studio.Start(parser.positionalArguments());
     return QApplication::exec();
 }

@@ -11,8 +11,7 @@ constexpr int kTickMilliseconds = 2;
 
 }  // namespace
 
-EventTrace::EventTrace(Studio& studio) : studio_(studio) {
-    sinceStep_.start();
+EventTrace::EventTrace(Studio& studio, const QElapsedTimer& sinceStart) : studio_(studio), sinceStep_(sinceStart) {
     sinceTick_.start();
     ticks_.setTimerType(Qt::PreciseTimer);
     ticks_.setInterval(kTickMilliseconds);
@@ -41,7 +40,9 @@ void EventTrace::EndStep(const char* step) {
 
 void EventTrace::RunChecks() {
     PaneWidget* pane = studio_.AddIn().Pane();
-    if (pane != nullptr) {
+    if (studio_.Projects().NeedsCompiling()) {
+        std::fprintf(stderr, "the project does not compile: no run\n");
+    } else if (pane != nullptr) {
         EndStep("idle");
         pane->Button(1)->click();
         QApplication::processEvents();

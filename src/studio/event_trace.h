@@ -13,7 +13,8 @@ namespace zentlor::studio {
 /// event loop was ever blocked in it, and ends the program.
 class EventTrace : public QObject {
   public:
-    explicit EventTrace(Studio& studio);
+    /// `sinceStart` runs since the program began.
+    EventTrace(Studio& studio, const QElapsedTimer& sinceStart);
 
   private:
     void Tick();

@@ -1,6 +1,5 @@
 #include "studio/file_watch.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -27,7 +26,8 @@ FileWatch::FileWatch() {
     connect(&rest_, &QTimer::timeout, this, [this] { Look(); });
 }
 
-void FileWatch::Watch(const QStringList& paths, const std::vector<workspace::OpenedProject>& projects) {
+void FileWatch::Watch(const QStringList& paths, const std::vector<workspace::OpenedProject>& projects,
+                      const QDateTime& readAt) {
     const QStringList watched = watcher_.files() + watcher_.directories();
     if (!watched.isEmpty()) watcher_.removePaths(watched);
     rest_.stop();
@@ -53,6 +53,19 @@ void FileWatch::Watch(const QStringList& paths, const std::vector<workspace::Ope
     seen_ = Fingerprint();
     const QStringList all = files_ + folders_ + parents.values();
     if (!all.isEmpty()) watcher_.addPaths(all);
+    if (WrittenSince(readAt)) {
+        seen_.clear();
+        rest_.start();
+    }
+}
+
+// A time in the future is a clock that goes wrong, and would count as a change again and again.
+bool FileWatch::WrittenSince(const QDateTime& moment) const {
+    const QDateTime now = QDateTime::currentDateTime();
+    return std::any_of(files_.begin(), files_.end(), [&](const QString& file) {
+        const QDateTime written = QFileInfo(file).lastModified();
+        return written > moment && written <= now;
+    });
 }
 
 QByteArray FileWatch::Fingerprint() const {

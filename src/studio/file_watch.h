@@ -2,6 +2,7 @@
 
 // Notices that opened files have changed on disk.
 
+#include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QStringList>
 #include <QTimer>
@@ -16,8 +17,10 @@ class FileWatch : public QObject {
   public:
     FileWatch();
 
-    /// Watches what `paths` led to from now on, and nothing else. A folder's own files may come and go.
-    void Watch(const QStringList& paths, const std::vector<workspace::OpenedProject>& projects);
+    /// Watches what `paths` led to, and nothing else. A folder's own files may come and go. What was written after
+    /// `readAt`, when the reading began, counts as a change.
+    void Watch(const QStringList& paths, const std::vector<workspace::OpenedProject>& projects,
+               const QDateTime& readAt);
 
   Q_SIGNALS:
     /// Something that counts has changed, and the changes have come to rest.
@@ -25,6 +28,7 @@ class FileWatch : public QObject {
 
   private:
     QByteArray Fingerprint() const;
+    bool WrittenSince(const QDateTime& moment) const;
     void Look();
 
     QFileSystemWatcher watcher_;

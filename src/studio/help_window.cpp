@@ -108,6 +108,8 @@ void HelpWindow::CreateToolBar() {
 QListWidget* HelpWindow::CreateList() {
     auto* list = new QListWidget;
     list->setFrameShape(QFrame::NoFrame);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setSpacing(2);
     connect(list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
         if (item == nullptr || item->data(Qt::UserRole).isNull()) return;
         browser_->setSource(QUrl::fromLocalFile(folder_ + u'/' + item->data(Qt::UserRole).toString()));
@@ -146,10 +148,15 @@ void HelpWindow::Load(const QString& folder) {
     pages_ = ReadHelp(folder);
     contents_->clear();
     for (const HelpPage& page : pages_) {
-        auto* item = new QListWidgetItem(page.title, contents_);
-        item->setData(Qt::UserRole, page.file);
-        item->setToolTip(page.title);
+        AddItem(*contents_, page);
     }
+}
+
+// A title that is too long is cut, and told in full by its tool tip.
+void HelpWindow::AddItem(QListWidget& list, const HelpPage& page) {
+    auto* item = new QListWidgetItem(page.file == kFirstPage ? words_(Word::HelpHome) : page.title, &list);
+    item->setData(Qt::UserRole, page.file);
+    item->setToolTip(page.title);
 }
 
 void HelpWindow::Search(const QString& words) {
@@ -160,7 +167,7 @@ void HelpWindow::Search(const QString& words) {
         const bool holdsAll = std::all_of(wanted.begin(), wanted.end(), [&](const QString& word) {
             return page.text.contains(word, Qt::CaseInsensitive);
         });
-        if (holdsAll) (new QListWidgetItem(page.title, hits_))->setData(Qt::UserRole, page.file);
+        if (holdsAll) AddItem(*hits_, page);
     }
     if (hits_->count() == 0) new QListWidgetItem(words_(Word::HelpNoHits), hits_);
 }

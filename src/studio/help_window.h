@@ -41,6 +41,7 @@ class HelpWindow : public QMainWindow {
     void CreateToolBar();
     QListWidget* CreateList();
     void Load(const QString& folder);
+    void AddItem(QListWidget& list, const HelpPage& page);
 
     const Words& words_;
     QString folder_;

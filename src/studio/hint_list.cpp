@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 namespace zentlor::studio {
@@ -12,6 +13,16 @@ namespace zentlor::studio {
 namespace {
 
 constexpr int kSortTextColumn = 4;
+constexpr int kRowPadding = 5;
+
+// Rows with some air between them.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowPadding);
+    }
+};
 
 }  // namespace
 
@@ -25,12 +36,15 @@ HintList::HintList(QWidget* parent) : QTreeView(parent) {
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
-    setColumnHidden(kSortTextColumn, true);
+    setItemDelegate(new RowDelegate(this));
+    setHorizontalScrollMode(ScrollPerPixel);
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
     header()->setSectionsClickable(true);
     header()->setSortIndicatorShown(true);
     header()->setMinimumSectionSize(10);
+    // Behind all else that is said of the columns, or the hidden one keeps its room.
+    setColumnHidden(kSortTextColumn, true);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int section) { Q_EMIT SortWanted(section + 1); });
 }
 

@@ -155,6 +155,7 @@ void MainWindow::Retranslate() {
     tree_->setAccessibleName(treeDock_->windowTitle());
     errors_->setAccessibleName(errorDock_->windowTitle());
     chooseModule_->setText(words_(Word::WelcomeProject));
+    statusBar()->clearMessage();
     ShowPosition();
 }
 
@@ -195,7 +196,6 @@ void MainWindow::ShowErrors() {
     errorDock_->setVisible(errorModel_.rowCount() > 0);
     if (errorModel_.rowCount() == 0) return;
     errorDock_->raise();
-    resizeDocks({errorDock_}, {width() / 2}, Qt::Horizontal);
     errors_->setCurrentIndex(errorModel_.index(0, 0));
     errors_->setFocus();
 }
@@ -247,6 +247,7 @@ QDockWidget* MainWindow::AddToolWindow(const QString& guid, const QString& capti
     dock->setWidget(widget);
     if (!restoreDockWidget(dock)) {
         addDockWidget(Qt::BottomDockWidgetArea, dock);
+        tabifyDockWidget(errorDock_, dock);
         dock->hide();
     }
     toolWindows_ << dock;

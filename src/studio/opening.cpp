@@ -65,7 +65,7 @@ void Opening::Close() {
     if (!StopsRun(Word::RunInterruptOpen)) return;
     idle_.Add([this] {
         paths_.clear();
-        watch_.Watch({}, {});
+        watch_.Watch({}, {}, {});
         projects_.Close();
     });
 }
@@ -73,6 +73,7 @@ void Opening::Close() {
 void Opening::Begin(const QStringList& paths, Reading reading) {
     loading_ = paths;
     reading_ = reading;
+    readAt_ = QDateTime::currentDateTime();
     window_.ShowNotice(words_(Word::Loading).arg(QFileInfo(paths.front()).fileName()));
     loader_.Start(paths);
 }
@@ -88,7 +89,7 @@ void Opening::Finish() {
 void Opening::Install(workspace::Workspace&& result) {
     paths_ = loading_;
     projects_.Take(std::move(result), reading_);
-    watch_.Watch(paths_, projects_.All());
+    watch_.Watch(paths_, projects_.All(), readAt_);
     if (paths_.size() == 1) settings_.AddRecentPath(paths_.front());
     window_.ShowRecent(settings_.RecentPaths());
     TellSuccess();
@@ -99,13 +100,14 @@ void Opening::TellSuccess() {
         window_.ShowNotice(words_(Word::Reloaded));
         return;
     }
+    const QLocale locale(words_.English() ? QLocale::English : QLocale::German);
     std::size_t modules = 0;
     int lines = 0;
     for (const workspace::OpenedProject& opened : projects_.All()) {
         modules += opened.project->VBComponents().size();
         lines += opened.LineCount();
     }
-    window_.ShowNotice(words_(Word::OpenedCount).arg(modules).arg(window_.locale().toString(lines)));
+    window_.ShowNotice(words_(Word::OpenedCount).arg(modules).arg(locale.toString(lines)));
 }
 
 void Opening::TellFaults(const workspace::Workspace& result) {

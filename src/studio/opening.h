@@ -47,6 +47,7 @@ class Opening : public QObject {
     QStringList paths_;    ///< what is open
     QStringList loading_;  ///< what is being read
     Reading reading_ = Reading::Opened;
+    QDateTime readAt_;  ///< when the reading of `loading_` began
 };
 
 }  // namespace zentlor::studio

@@ -53,6 +53,8 @@ TEST_F(ClickThrough, FromRefreshToAnEnglishExport) {
     EXPECT_EQ(germanRows, Hints().Count());
     EXPECT_TRUE(Pane().PanelText(1).startsWith(QString::number(germanRows) + QStringLiteral(" Hinweise in ")));
 
+    QApplication::processEvents();
+    EXPECT_EQ(List().horizontalScrollBar()->maximum(), 0) << "all columns have room";
     ClickHeader(3);
     for (int row = 1; row < germanRows; ++row) ASSERT_LE(Cell(row - 1, 3).toInt(), Cell(row, 3).toInt());
     EXPECT_EQ(List().header()->sortIndicatorSection(), 3);
@@ -88,6 +90,29 @@ TEST_F(ClickThrough, FromRefreshToAnEnglishExport) {
     EXPECT_EQ(lines[0], QStringLiteral("Module;Procedure;Hint;Line"));
     EXPECT_TRUE(lines[1].startsWith(Cell(0, 0) + u';')) << "the order of the list";
     EXPECT_TRUE(lines[germanRows].endsWith(u';' + Cell(germanRows - 1, 3)));
+}
+
+// A line of the expected hints is "file:line: module.procedure: hint [check]".
+TEST_F(ClickThrough, TheHintsAreThoseOfTheCommandLine) {
+    ASSERT_TRUE(OpenExample());
+    for (const QString& language : {QStringLiteral("de"), QStringLiteral("en")}) {
+        if (language == QStringLiteral("en")) PickLanguage(2);
+        QFile file(QStringLiteral(ZENTLOR_SOURCE_DIR "/tests/golden/kunden.%1.txt").arg(language));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QStringList expected;
+        for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+            if (line.endsWith(u']')) expected << line.section(QStringLiteral(": "), 1);
+        }
+        Click(kRefresh);
+        QStringList shown;
+        for (const Hint& hint : Hints().Emitted()) {
+            shown << ToQString(hint.strNameVBC + u"." + hint.strProzedur + u": " + hint.strHinweis + u" [" +
+                               Text(InfoOf(hint.check).key) + u"]");
+        }
+        expected.sort();
+        shown.sort();
+        EXPECT_EQ(shown, expected) << language.toStdString();
+    }
 }
 
 TEST_F(ClickThrough, AnOptionThatIsSwitchedOffGivesNoHints) {

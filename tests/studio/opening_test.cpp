@@ -78,6 +78,20 @@ TEST_F(OpeningTest, AChangeOnDiskIsReadAgain) {
     EXPECT_EQ(FirstLine(), u"' ersetzt");
 }
 
+TEST_F(OpeningTest, AChangeInTheMiddleOfTheReadingIsNotLost) {
+    WriteModule(QStringLiteral("Modul1.bas"), "' alt\r\n");
+    ASSERT_TRUE(Open(folder_.path()));
+    // By the time the window hears of what was read, the file is a newer one.
+    const VBProject* before = Project();
+    bool written = false;
+    QObject::connect(&studio_->Projects(), &OpenProjects::Replaced, &studio_->Projects(), [&] {
+        if (!std::exchange(written, true)) WriteModule(QStringLiteral("Modul1.bas"), "' neu\r\n");
+    });
+    Entries().reload->trigger();
+    ASSERT_TRUE(WaitForOtherProject(before));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return FirstLine() == u"' neu"; }, 10000));
+}
+
 TEST_F(OpeningTest, ARunIsNotTakenAwayUnasked) {
     for (int i = 0; i < 30; ++i) {
         WriteModule(QStringLiteral("Modul%1.bas").arg(i), "Sub A()\r\n    Stop\r\nEnd Sub\r\n");
