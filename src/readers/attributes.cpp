@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/utilities/character_blocks.h"
+
 namespace zentlor::readers {
 namespace {
 
@@ -44,9 +46,10 @@ struct Attribute {
 // The parts of a physical line that begins an `Attribute` line.
 std::optional<Attribute> ParseAttribute(TextView line) {
     constexpr TextView kWord = u"Attribute";
-    if (line.size() <= kWord.size()) return std::nullopt;
-    const auto first = std::find_if_not(line.begin(), line.end(), IsBlank);
-    if (first == line.end() || FoldCase(*first) != u'a') return std::nullopt;
+    std::size_t first = 0;
+    while (first < line.size() && IsBlank(line[first])) ++first;
+    // Nearly every line ends here.
+    if (first == line.size() || (line[first] | 0x20) != u'a') return std::nullopt;
     const TextView trimmed = WithoutBlanks(line);
     if (trimmed.size() <= kWord.size() || !IsBlank(trimmed[kWord.size()])) return std::nullopt;
     if (!EqualIgnoringCase(trimmed.substr(0, kWord.size()), kWord)) return std::nullopt;
@@ -80,8 +83,7 @@ class LineReader {
     explicit LineReader(TextView text) : text_(text) {}
     bool Next(TextView& line) {
         if (at_ >= text_.size()) return false;
-        std::size_t end = at_;
-        while (end < text_.size() && text_[end] != u'\n' && text_[end] != u'\r') ++end;
+        const std::size_t end = FindAny(text_, at_, u'\n', u'\r');
         line = text_.substr(at_, end - at_);
         const bool pair = end + 1 < text_.size() && text_[end] == u'\r' && text_[end + 1] == u'\n';
         at_ = end + (pair ? 2 : 1);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "core/utilities/character_blocks.h"
+
 namespace zentlor {
 
 namespace {
@@ -11,20 +13,8 @@ constexpr std::size_t kNotFound = TextView::npos;
 
 std::vector<std::uint32_t> FindLineStarts(TextView text) {
     std::vector<std::uint32_t> starts{0};
-    for (auto end = FindCharacter(text, 0, u'\n'); end < text.size(); end = FindCharacter(text, end + 1, u'\n')) {
-        starts.push_back(static_cast<std::uint32_t>(end) + 1);
-    }
+    ForEachPlace(text, u'\n', [&](std::size_t end) { starts.push_back(static_cast<std::uint32_t>(end) + 1); });
     return starts;
-}
-
-// Offset of `target` in text[from, to), or kNotFound.
-std::size_t FindText(TextView text, TextView target, std::size_t from, std::size_t to) {
-    const TextView searched = text.substr(0, to);
-    for (std::size_t i = FindCharacter(searched, from, target.front()); i + target.size() <= to;
-         i = FindCharacter(searched, i + 1, target.front())) {
-        if (searched.substr(i, target.size()) == target) return i;
-    }
-    return kNotFound;
 }
 
 bool HasCase(TextView target) {
@@ -124,8 +114,8 @@ std::size_t CodeModule::SearchText(TextView target, Bounds bounds, FindFlags fla
     const bool exact = flags.matchCase || !HasCase(target);
     for (std::size_t i = bounds.from; i + target.size() <= bounds.to; ++i) {
         if (exact) {
-            i = FindText(text, target, i, bounds.to);
-            if (i == kNotFound) return kNotFound;
+            i = FindText(text.substr(0, bounds.to), i, target);
+            if (i >= bounds.to) return kNotFound;
         } else if (!EqualIgnoringCase(text.substr(i, target.size()), target)) {
             continue;
         }
@@ -139,8 +129,9 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
     const TextView text(text_);
     const TextView anchor = LeadingWord(target);
     if (anchor.empty()) {
-        for (std::size_t i = FindText(text, target, bounds.from, bounds.to); i != kNotFound;
-             i = FindText(text, target, i + 1, bounds.to)) {
+        const TextView searched = text.substr(0, bounds.to);
+        for (std::size_t i = FindText(searched, bounds.from, target); i < searched.size();
+             i = FindText(searched, i + 1, target)) {
             if (StandsFree(i, target.size(), continuesWord)) return i;
         }
         return kNotFound;
@@ -150,7 +141,7 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
     for (const Place place : words.PlacesOf(anchor, component_.Index(), bounds.from)) {
         const std::size_t offset = place - start;
         if (offset + target.size() > bounds.to) return kNotFound;
-        const bool equal = anchor.size() == target.size() || text.substr(offset, target.size()) == target;
+        const bool equal = anchor.size() == target.size() || IsSame(text.substr(offset, target.size()), target);
         if (equal && StandsFree(offset, target.size(), continuesWord)) return offset;
     }
     return kNotFound;

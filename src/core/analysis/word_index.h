@@ -29,7 +29,8 @@ class WordIndex {
     /// characters than those of the index.
     std::span<const Place> PlacesOf(TextView word) const;
 
-    /// The part of PlacesOf(word) in one module, from an offset in its text on.
+    /// PlacesOf(word) from an offset in the text of one module on, to the project's end. Remembers the answer: a search
+    /// that goes on from there for the same word costs next to nothing. Not to be called by several threads at once.
     std::span<const Place> PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const;
 
     /// The number of the module, counted from 0, that holds a place.
@@ -38,14 +39,36 @@ class WordIndex {
     Place StartOf(std::size_t module) const { return moduleStarts_[module]; }
 
   private:
+    static constexpr std::size_t kPacked = 16;
+
+    // A word as the table compares it: its first kPacked characters with one byte each, and all of it where it is
+    // longer.
+    struct Key {
+        std::uint64_t low = 0;
+        std::uint64_t high = 0;
+        const char16_t* text = nullptr;
+        std::uint32_t length = 0;
+    };
     struct Slot {
-        TextView word;
+        Key key;
         std::uint32_t id = 0;
     };
+    // Where the last search in a module ended: the places of its word, and how many of them it left behind.
+    struct Search {
+        Text word;
+        std::span<const Place> places;
+        std::size_t passed = 0;
+    };
 
-    Slot& SlotOf(TextView word, std::uint32_t hash);
+    static Key KeyOf(const char16_t* word, std::size_t length);
+    static Key KeyOf(TextView word);
+    static bool AreEqual(const Key& a, const Key& b);
+    static std::uint32_t HashOf(const Key& key);
+
+    std::uint32_t IdOf(const Key& key);
     void Grow();
 
+    mutable Search last_;
     std::vector<Slot> slots_;  ///< open addressing, a power of two
     std::uint32_t words_ = 0;
     std::vector<Place> moduleStarts_;

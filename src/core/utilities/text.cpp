@@ -1,8 +1,10 @@
 #include "core/utilities/text.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
-#include <cstring>
+
+#include "core/utilities/character_blocks.h"
 
 namespace zentlor {
 
@@ -62,20 +64,22 @@ TextView Mid(TextView text, int start) {
 }
 
 std::size_t FindCharacter(TextView text, std::size_t from, char16_t wanted) {
-    constexpr std::uint64_t kOnes = 0x0001000100010001;
-    constexpr std::uint64_t kHighBits = 0x8000800080008000;
-    constexpr std::size_t kAtOnce = sizeof(std::uint64_t) / sizeof(char16_t);
-    const std::uint64_t pattern = kOnes * wanted;
+    return FindAny(text, from, wanted);
+}
+
+std::size_t FindText(TextView text, std::size_t from, TextView target) {
+    // First and last character tell nearly all other places apart from those of the target.
+    const std::size_t last = target.size() - 1;
     std::size_t i = from;
-    for (; i + kAtOnce <= text.size(); i += kAtOnce) {
-        std::uint64_t four;
-        std::memcpy(&four, text.data() + i, sizeof four);
-        // A character that equals the wanted one is 0 behind the exclusive or, and borrows from its highest bit.
-        const std::uint64_t different = four ^ pattern;
-        if (((different - kOnes) & ~different & kHighBits) != 0) break;
+    for (; i + last + kBlock <= text.size(); i += kBlock) {
+        const char16_t* block = text.data() + i;
+        std::uint32_t places = PlacesOf(target.front(), block) & PlacesOf(target.back(), block + last);
+        for (; places != 0; places &= places - 1) {
+            const std::size_t place = i + static_cast<std::size_t>(std::countr_zero(places));
+            if (IsSame(text.substr(place, target.size()), target)) return place;
+        }
     }
-    while (i < text.size() && text[i] != wanted) ++i;
-    return std::min(i, text.size());
+    return std::min(text.find(target, i), text.size());
 }
 
 Text ToText(long long number) {

@@ -4,6 +4,7 @@
 // columns count from 1 and are UTF-16 code units, trimming removes the blank U+0020 and nothing else, and a search that
 // finds nothing answers 0.
 
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -36,6 +37,13 @@ inline int Len(TextView text) {
 /// Offset of the first `wanted` at or behind offset `from`, or the text's size. The searches over whole modules rest on
 /// it, so it looks at several characters at a time.
 std::size_t FindCharacter(TextView text, std::size_t from, char16_t wanted);
+/// The same for a `target` of one character and more.
+std::size_t FindText(TextView text, std::size_t from, TextView target);
+
+/// `a == b`, quicker for words: the standard's comparison of this type of text goes character by character.
+inline bool IsSame(TextView a, TextView b) {
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+}
 
 /// `number` in decimal, without blanks.
 Text ToText(long long number);
