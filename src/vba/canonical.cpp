@@ -1,6 +1,6 @@
 // The writer compares each token, and the blanks in front of it, with what the editor would store. Only a difference is
-// written: the text before it is copied in one run, then the better form. A module that is canonical already costs the
-// comparison and nothing else.
+// written: the text before it is copied in one run, then the better form. While the names are still being learned the
+// same walk tells whether anything but a name differs; a module that is canonical already is never walked again.
 
 #include "vba/canonical.h"
 
@@ -23,25 +23,16 @@ bool IsComparison(Operator op) {
 
 class ModuleWriter {
   public:
-    ModuleWriter(const Tokens& tokens, TextView text, const Capitalisation& capitalisation,
-                 const std::vector<std::uint32_t>& names, Text& out)
-        : tokens_(tokens),
-          text_(text),
-          capitalisation_(capitalisation),
-          nextName_(names.data()),
-          out_(out),
-          spacing_(tokens) {}
+    /// Without a capitalisation all names may stand as they are.
+    ModuleWriter(const Tokens& tokens, TextView text, const Capitalisation* capitalisation, Text& out)
+        : tokens_(tokens), text_(text), capitalisation_(capitalisation), out_(out), spacing_(tokens) {}
 
     bool Run() {
         std::size_t first = 0;
         while (tokens_[first].kind != TokenKind::EndOfText) {
             bool isReadable = true;
             const std::size_t end = FindLineEnd(first, isReadable);
-            if (isReadable) {
-                WriteLine(first, end);
-            } else {
-                SkipNames(first, end);
-            }
+            if (isReadable) WriteLine(first, end);
             first = end + 1;
         }
         if (!hasChanged_) return false;
@@ -96,10 +87,6 @@ class ModuleWriter {
             WriteToken(i);
             if (i == missing.behind) Replace(token.End(), token.End(), missing.text);
         }
-    }
-
-    void SkipNames(std::size_t first, std::size_t end) {
-        nextName_ += std::count_if(tokens_.begin() + first, tokens_.begin() + end, HasProjectCapitalisation);
     }
 
     bool IsFirstOfPhysicalLine(std::size_t index) const {
@@ -172,10 +159,9 @@ class ModuleWriter {
         if (token.Has(kBracketed)) return;
         const Token name = WithoutTypeCharacter(token);
         if (!HasProjectCapitalisation(token)) return ReplaceIfOther(name, Spelling(token.keyword()));
-        const std::uint32_t number = *nextName_++;
-        if (!capitalisation_.Varies(number)) return;
+        if (capitalisation_ == nullptr) return;
         const bool isKeyword = token.id != 0 && StandsAsKeyword(tokens_, index, spacing_.StatementStart());
-        ReplaceIfOther(name, isKeyword ? Spelling(token.keyword()) : capitalisation_.SpellingOf(number));
+        ReplaceIfOther(name, isKeyword ? Spelling(token.keyword()) : capitalisation_->SpellingOf(NameOf(token, text_)));
     }
 
     void WriteOther(const Token& token) {
@@ -206,8 +192,7 @@ class ModuleWriter {
 
     const Tokens& tokens_;
     TextView text_;
-    const Capitalisation& capitalisation_;
-    const std::uint32_t* nextName_;  // the number of the next name with a project's capitalisation
+    const Capitalisation* capitalisation_;
     Text& out_;
     Spacing spacing_;
     std::size_t done_ = 0;  // everything in front of it has been written, once anything has changed
@@ -218,13 +203,22 @@ class ModuleWriter {
 
 }  // namespace
 
-std::size_t Canonicaliser::Learn(const Tokens& tokens, TextView text) {
-    names_.push_back(capitalisation_.Learn(tokens, text));
-    return names_.size() - 1;
+void Canonicaliser::Learn(const Tokens& tokens, TextView text) {
+    Module module;
+    module.names = capitalisation_.Learn(tokens, text);
+    Text unused;
+    module.differsInForm = ModuleWriter(tokens, text, nullptr, unused).Run();
+    modules_.push_back(std::move(module));
 }
 
-bool Canonicaliser::Write(std::size_t number, const Tokens& tokens, TextView text, Text& canonical) const {
-    return ModuleWriter(tokens, text, capitalisation_, names_[number], canonical).Run();
+bool Canonicaliser::MayChange(std::size_t number) const {
+    const Module& module = modules_[number];
+    return module.differsInForm || std::any_of(module.names.begin(), module.names.end(),
+                                               [this](std::uint32_t name) { return capitalisation_.Varies(name); });
+}
+
+bool Canonicaliser::Write(const Tokens& tokens, TextView text, Text& canonical) const {
+    return ModuleWriter(tokens, text, &capitalisation_, canonical).Run();
 }
 
 }  // namespace zentlor::vba

@@ -20,18 +20,27 @@ class Canonicaliser {
     /// The name of a component, which counts as declared.
     void LearnName(TextView name) { capitalisation_.LearnDeclared(name); }
 
-    /// Takes the names of a module and returns the module's number, counted from 0. `tokens` are those of `text`. The
-    /// order of the modules decides between declarations of one name in different capitalisations: the first wins.
-    std::size_t Learn(const Tokens& tokens, TextView text);
+    /// Takes the names of the next module. `tokens` are those of `text`. The order of the modules decides between
+    /// declarations of one name in different capitalisations: the first wins.
+    void Learn(const Tokens& tokens, TextView text);
 
-    /// Puts the canonical text of module `number` into `canonical` and answers True, or answers False if the module's
-    /// text is canonical as it stands; `canonical` is then untouched. `tokens` and `text` are those that were learned.
-    /// May run for several modules at once.
-    bool Write(std::size_t number, const Tokens& tokens, TextView text, Text& canonical) const;
+    /// False if `Write` would leave the module as it is: the one that was learned as number `number`, counted from 0.
+    /// To be asked once all modules are learned.
+    bool MayChange(std::size_t number) const;
+
+    /// Puts the canonical text of a module into `canonical` and answers True, or answers False if its text is canonical
+    /// as it stands; `canonical` is then untouched. `tokens` and `text` are those that were learned. May run for
+    /// several modules at once.
+    bool Write(const Tokens& tokens, TextView text, Text& canonical) const;
 
   private:
+    struct Module {
+        std::vector<std::uint32_t> names;  // as `Capitalisation::Learn` gives them
+        bool differsInForm = false;        // in something else than the capitalisation of names
+    };
+
     Capitalisation capitalisation_;
-    std::vector<std::vector<std::uint32_t>> names_;  // per module, as `Capitalisation::Learn` gives them
+    std::vector<Module> modules_;
 };
 
 }  // namespace zentlor::vba

@@ -24,14 +24,18 @@ Capitalisation::Capitalisation() {
 
 std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView text) {
     DeclarationReader declarations;
-    std::vector<std::uint32_t> numbers;
-    numbers.reserve(tokens.size() / 2);
+    std::vector<std::uint32_t> held;
+    ++modules_;
     for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
         const bool declares = declarations.Declares(tokens[i], tokens[i + 1]);
         if (!HasProjectCapitalisation(tokens[i])) continue;
-        numbers.push_back(names_.Add(NameOf(tokens[i], text), declares ? NameRank::Declared : NameRank::Met));
+        const std::uint32_t number = names_.Add(NameOf(tokens[i], text), declares ? NameRank::Declared : NameRank::Met);
+        if (number >= lastModule_.size()) lastModule_.resize(2 * std::size_t{number} + 1);
+        if (lastModule_[number] == modules_) continue;
+        lastModule_[number] = modules_;
+        held.push_back(number);
     }
-    return numbers;
+    return held;
 }
 
 }  // namespace zentlor::vba

@@ -19,13 +19,13 @@ class Capitalisation {
     /// A name that is declared outside of the text: a component's.
     void LearnDeclared(TextView name) { names_.Add(name, NameRank::Declared); }
 
-    /// Takes the names of one module. The order of the calls decides which declaration is the first. Returns a number
-    /// for each token with `HasProjectCapitalisation`, in their order.
+    /// Takes the names of one module: its tokens with `HasProjectCapitalisation`. The order of the calls decides which
+    /// declaration is the first. Returns the numbers of the names that the module holds, each once.
     std::vector<std::uint32_t> Learn(const Tokens& tokens, TextView text);
 
-    /// The capitalisation of the name with that number. Asks for nothing but the name: whether a word stands for a
-    /// keyword at its place is the caller's matter.
-    TextView SpellingOf(std::uint32_t number) const { return names_.SpellingOf(number); }
+    /// The capitalisation of a name that was learned. Asks for nothing but the name: whether a word stands for a keyword
+    /// at its place is the caller's matter.
+    TextView SpellingOf(TextView name) const { return names_.SpellingOf(name); }
 
     /// False if the name stands everywhere as `SpellingOf` gives it, and is no contextual word that was declared in
     /// another capitalisation than the keyword's.
@@ -33,6 +33,8 @@ class Capitalisation {
 
   private:
     SpellingTable names_;
+    std::uint32_t modules_ = 0;
+    std::vector<std::uint32_t> lastModule_;  // by number of the name: the last module that held it, counted from 1
 };
 
 /// True for tokens whose capitalisation the project decides: names without brackets that are no fixed word of VBA, and

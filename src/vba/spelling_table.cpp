@@ -72,13 +72,17 @@ std::uint32_t SpellingTable::Add(TextView name, NameRank rank) {
     }
     const std::uint32_t number = slots_[slot] - 1;
     Entry& entry = entries_[number];
-    const bool isSame = entry.spelling == name;
+    const bool isSame = IsSame(entry.spelling, name);
     if (!isSame) entry.varies = true;
     if (rank > entry.rank) {
         entry.rank = rank;
         if (!isSame) entry.spelling = Keep(name);
     }
     return number;
+}
+
+TextView SpellingTable::SpellingOf(TextView name) const {
+    return entries_[slots_[FindSlot(name, HashName(name))] - 1].spelling;
 }
 
 bool SpellingTable::Holds(TextView name) const {
@@ -91,7 +95,7 @@ std::size_t SpellingTable::FindSlot(TextView name, std::uint64_t hash) const {
     std::size_t slot = hash & mask;
     for (; slots_[slot] != 0; slot = (slot + 1) & mask) {
         const Entry& entry = entries_[slots_[slot] - 1];
-        if (entry.hash == hash && (entry.spelling == name || EqualFolded(entry.spelling, name))) break;
+        if (entry.hash == hash && (IsSame(entry.spelling, name) || EqualFolded(entry.spelling, name))) break;
     }
     return slot;
 }

@@ -6,38 +6,40 @@
 
 namespace zentlor::workspace {
 
+namespace {
+
+void TokenizeTimed(const readers::SourceModule& module, vba::Tokens& tokens, StageTimes* times) {
+    const Stopwatch watch(times, &StageTimes::tokens);
+    vba::Tokenize(module.code, tokens);
+}
+
+}  // namespace
+
 CompiledModules Compile(std::vector<readers::SourceModule>& modules, bool keepRawCode, StageTimes* times) {
     CompiledModules result;
     result.rawCode.resize(modules.size());
     vba::Canonicaliser canonicaliser;
-    // Names are learned from the whole project before the first line is written: a use may stand in front of its
-    // declaration.
-    std::vector<vba::Tokens> tokens(modules.size());
+    vba::Tokens tokens;  // of one module at a time: those of a whole project would be larger than its text
     for (std::size_t i = 0; i < modules.size(); ++i) {
-        canonicaliser.LearnName(modules[i].name);
-        {
-            const Stopwatch watch(times, &StageTimes::tokens);
-            vba::Tokenize(modules[i].code, tokens[i]);
-        }
-        const Stopwatch watch(times, &StageTimes::canonical);
-        canonicaliser.Learn(tokens[i], modules[i].code);
-    }
-    for (std::size_t i = 0; i < modules.size(); ++i) {
-        Text& code = modules[i].code;
-        Text canonical;
-        bool changed = false;
+        TokenizeTimed(modules[i], tokens, times);
         {
             const Stopwatch watch(times, &StageTimes::canonical);
-            changed = canonicaliser.Write(i, tokens[i], code, canonical);
+            canonicaliser.LearnName(modules[i].name);
+            canonicaliser.Learn(tokens, modules[i].code);
         }
-        {
-            const Stopwatch watch(times, &StageTimes::syntax);
-            for (vba::SyntaxError& error : vba::CheckSyntax(code, tokens[i])) {
-                result.errors.push_back({i, std::move(error)});
-            }
+        const Stopwatch watch(times, &StageTimes::syntax);
+        for (vba::SyntaxError& error : vba::CheckSyntax(modules[i].code, tokens)) {
+            result.errors.push_back({i, std::move(error)});
         }
-        tokens[i] = {};
-        if (!changed) continue;
+    }
+    // Only now are all names known: a use may stand in front of its declaration.
+    for (std::size_t i = 0; i < modules.size(); ++i) {
+        if (!canonicaliser.MayChange(i)) continue;
+        TokenizeTimed(modules[i], tokens, times);
+        const Stopwatch watch(times, &StageTimes::canonical);
+        Text& code = modules[i].code;
+        Text canonical;
+        if (!canonicaliser.Write(tokens, code, canonical)) continue;
         if (keepRawCode) result.rawCode[i] = std::move(code);
         code = std::move(canonical);
     }

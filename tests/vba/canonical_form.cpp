@@ -1,5 +1,7 @@
 #include "canonical_form.h"
 
+#include <gtest/gtest.h>
+
 #include "vba/canonical.h"
 #include "vba/tokenizer.h"
 
@@ -14,7 +16,10 @@ std::vector<Text> CanonicalForms(const std::vector<Text>& modules, const std::ve
         canonicaliser.Learn(tokens.back(), module);
     }
     std::vector<Text> forms = modules;
-    for (std::size_t i = 0; i < modules.size(); ++i) canonicaliser.Write(i, tokens[i], modules[i], forms[i]);
+    for (std::size_t i = 0; i < modules.size(); ++i) {
+        const bool changes = canonicaliser.Write(tokens[i], modules[i], forms[i]);
+        EXPECT_TRUE(canonicaliser.MayChange(i) || !changes) << "module " << i << " changes unexpectedly";
+    }
     return forms;
 }
 
