@@ -10,6 +10,7 @@
 #include "core/utilities/encoding.h"
 #include "readers/byte_reader.h"
 #include "readers/code_page.h"
+#include "readers/sentences.h"
 
 namespace zentlor::readers {
 
@@ -107,12 +108,16 @@ std::vector<FormControl> ParseTypeInfo(std::string_view bytes, int codePage) {
     return controls;
 }
 
-std::vector<FormLayout> ReadFormLayouts(const Storage& root, int codePage, bool* incomplete) {
+void AddFormLayouts(const Storage& root, int codePage, Document& document) {
     LayoutReader reader(root, codePage);
     reader.Read(u"Forms", false);
     reader.Read(u"Reports", true);
-    if (incomplete && reader.Incomplete()) *incomplete = true;
-    return reader.Take();
+    document.layouts = reader.Take();
+    if (!reader.Incomplete()) return;
+    document.problems.push_back(MakeSentence(
+        "\"[%1]\" nennt mehr Formulare und Steuerelemente, als eine Datenbank haben kann; gelesen wurden die ersten.",
+        "\"[%1]\" names more forms and controls than a database can have; the first of them were read.",
+        {document.path}));
 }
 
 }  // namespace zentlor::readers

@@ -11,10 +11,10 @@
 
 namespace zentlor::readers {
 
-/// All forms, then all reports, in the order of their directories. `root` is the storage that holds `Forms`, `Reports`
-/// and `VBA`; `codePage` is that of the names of controls. `incomplete`, if given, is set if there was more than any
-/// database can hold, and else left alone; what was read up to there comes back.
-std::vector<FormLayout> ReadFormLayouts(const Storage& root, int codePage, bool* incomplete = nullptr);
+/// Adds all forms, then all reports, to `document.layouts`, in the order of their directories. `root` is the storage
+/// that holds `Forms`, `Reports` and `VBA`; `codePage` is that of the names of controls. If there are more than any
+/// database can hold, the first of them are added and a problem of the document tells.
+void AddFormLayouts(const Storage& root, int codePage, Document& document);
 
 /// The controls that the stream `TypeInfo` of a form or report lists, without its sections and the fields of its record
 /// source. A list that ends early gives what is there.

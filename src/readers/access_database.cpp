@@ -63,7 +63,9 @@ class DatabaseReader {
         if (project) TakeProject(std::move(*project));
         if (document_.projectName.empty())
             document_.projectName = FromUtf8(std::filesystem::path(path_).stem().string());
-        ReadLayouts();
+        if (storages_) {
+            AddFormLayouts(*storages_, document_.codePage != 0 ? document_.codePage : file_.CodePage(), document_);
+        }
         ReportMissingSource(*catalog, compiledOnly);
         ReportDamage(*catalog);
         return std::move(document_);
@@ -107,18 +109,6 @@ class DatabaseReader {
         const auto root = storages_ ? OpenPath(*storages_, {u"VBA", u"VBAProject"}) : nullptr;
         if (root && HoldsOvbaProject(*root)) return ReadOvbaProject(*root, path_, limits_);
         return access97;
-    }
-
-    void ReadLayouts() {
-        if (!storages_) return;
-        bool incomplete = false;
-        const int codePage = document_.codePage != 0 ? document_.codePage : file_.CodePage();
-        document_.layouts = ReadFormLayouts(*storages_, codePage, &incomplete);
-        if (!incomplete) return;
-        Report(
-            "\"[%1]\" nennt mehr Formulare und Steuerelemente, als eine Datenbank haben kann; gelesen wurden die "
-            "ersten.",
-            "\"[%1]\" names more forms and controls than a database can have; the first of them were read.", {path_});
     }
 
     void TakeProject(OvbaProject project) {

@@ -66,8 +66,10 @@ class ZipArchive {
 /// The four bytes that a zip begins with.
 bool HasZipSignature(std::string_view bytes);
 
-/// The zip `bytes`, or null if its directory cannot be read.
-/// Throws `ReadError` with `Limit` if it has more parts than `limits` allows.
-std::unique_ptr<ZipArchive> OpenZip(std::string_view bytes, const std::string& path, const Limits& limits);
+/// The zip `bytes`, or null if no part of it can be found. `salvaged`, if given, becomes true where the directory at
+/// the zip's end is missing or contradicts the file, and the parts are those whose own heads were found. Throws
+/// `ReadError` with `Limit` if it has more parts than `limits` allows.
+std::unique_ptr<ZipArchive> OpenZip(std::string_view bytes, const std::string& path, const Limits& limits,
+                                    bool* salvaged = nullptr);
 
 }  // namespace zentlor::readers

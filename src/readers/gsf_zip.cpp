@@ -7,6 +7,7 @@
 #include "readers/gsf_library.h"
 #include "readers/sentences.h"
 #include "readers/zip_directory.h"
+#include "readers/zip_salvage.h"
 
 namespace zentlor::readers {
 namespace {
@@ -43,23 +44,35 @@ class GsfZip final : public ZipArchive {
     std::vector<ZipPart> parts_;
 };
 
-}  // namespace
-
-std::unique_ptr<ZipArchive> OpenZip(std::string_view bytes, const std::string& path, const Limits& limits) {
-    if (!HasZipSignature(bytes)) return nullptr;
-    ZipDirectory directory = ReadZipDirectory(bytes, limits.zipParts);
-    if (directory.tooManyParts) {
-        Fail(ReadFailure::Limit, "\"[%1]\" enthält mehr als [%2] Teile; --max-zip-parts hebt die Grenze an.",
-             "\"[%1]\" holds more than [%2] parts; --max-zip-parts raises the limit.",
-             {path, std::to_string(limits.zipParts)});
-    }
-    if (!directory.sound) return nullptr;
+// Null if the library refuses it.
+std::unique_ptr<ZipArchive> OpenByDirectory(std::string_view bytes, std::vector<ZipPart> parts) {
     StartGsf();
     const GsfPointer<GsfInput> input(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),
                                                           static_cast<gsf_off_t>(bytes.size()), FALSE));
     GsfPointer<GsfInfile> infile(gsf_infile_zip_new(input.get(), nullptr));
     if (!infile) return nullptr;
-    return std::make_unique<GsfZip>(std::move(infile), std::move(directory.parts));
+    return std::make_unique<GsfZip>(std::move(infile), std::move(parts));
+}
+
+}  // namespace
+
+std::unique_ptr<ZipArchive> OpenZip(std::string_view bytes, const std::string& path, const Limits& limits,
+                                    bool* salvaged) {
+    if (!HasZipSignature(bytes)) return nullptr;
+    ZipDirectory directory = ReadZipDirectory(bytes, limits.zipParts);
+    bool tooManyParts = directory.tooManyParts;
+    std::unique_ptr<ZipArchive> zip;
+    if (directory.sound) zip = OpenByDirectory(bytes, std::move(directory.parts));
+    if (!zip && !tooManyParts) {
+        zip = SalvageZip(bytes, limits.zipParts, tooManyParts);
+        if (salvaged != nullptr) *salvaged = zip != nullptr;
+    }
+    if (tooManyParts) {
+        Fail(ReadFailure::Limit, "\"[%1]\" enthält mehr als [%2] Teile; --max-zip-parts hebt die Grenze an.",
+             "\"[%1]\" holds more than [%2] parts; --max-zip-parts raises the limit.",
+             {path, std::to_string(limits.zipParts)});
+    }
+    return zip;
 }
 
 }  // namespace zentlor::readers

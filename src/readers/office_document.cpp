@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "core/utilities/encoding.h"
+#include "readers/access_controls.h"
 #include "readers/container.h"
 #include "readers/office_kind.h"
 #include "readers/ovba_project.h"
@@ -77,14 +78,23 @@ class DocumentReader {
     }
 
     void ReadZip() {
-        const auto zip = OpenZip(bytes_, path_, limits_);
+        bool salvaged = false;
+        const auto zip = OpenZip(bytes_, path_, limits_, &salvaged);
         if (!zip) RefuseDamaged();
         const auto description = DescribeOpenXml(ReadSmallPart(*zip, "[Content_Types].xml"), zip->Parts());
         if (!description) RefuseKind();
         document_.description = *description;
         const std::string app = ReadSmallPart(*zip, "docProps/app.xml");
         document_.application = Joined(ElementText(app, "Application"), ElementText(app, "AppVersion"));
-        if (!ReadProjectOfZip(*zip) && damagedPart_) RefuseDamaged();
+        if (!ReadProjectOfZip(*zip) && (damagedPart_ || salvaged)) RefuseDamaged();
+        if (!salvaged) return;
+        document_.problems.push_back(MakeSentence(
+            "\"[%1]\" ist beschädigt: das Verzeichnis am Ende der Datei fehlt oder ist falsch; was lesbar war, wurde "
+            "gelesen; die Datei neu übertragen.",
+            "\"[%1]\" is damaged: the directory at the end of the file is missing or wrong; what was readable was "
+            "read; "
+            "transfer the file anew.",
+            {path_}));
     }
 
     static std::string ReadSmallPart(const ZipArchive& zip, std::string_view name) {
@@ -146,6 +156,8 @@ class DocumentReader {
         if (!read && incomplete) RefuseDamaged();
         if (!read && !description) RefuseKind();
         if (incomplete) ReportIncomplete();
+        // An Access project alone has forms of this kind; elsewhere nothing bears the names of their storages.
+        AddFormLayouts(*root, document_.codePage, document_);
     }
 
     void RefuseEncrypted(const Storage& root) const {

@@ -55,6 +55,12 @@ constexpr Kind kStreams[] = {
     {"VisioDocument", "Visio-Zeichnung (bis 2010)", "Visio drawing (up to 2010)"},
 };
 
+// The storages of an Access database without the database: its tables stay on a server. No stream of its own tells.
+bool IsAccessProject(const Storage& root) {
+    const auto has = [&](TextView name) { return root.OpenStorage(name) != nullptr; };
+    return OpenPath(root, {u"VBA", u"VBAProject"}) || (has(u"Forms") && has(u"Reports") && has(u"Modules"));
+}
+
 Sentence Words(const Kind& kind) {
     return {std::string(kind.german), std::string(kind.english)};
 }
@@ -78,6 +84,7 @@ std::optional<Sentence> DescribeCompoundFile(const Storage& root) {
     for (const Kind& kind : kStreams) {
         if (root.ReadStream(Text(kind.mark.begin(), kind.mark.end()), 1)) return Words(kind);
     }
+    if (IsAccessProject(root)) return Sentence{"Access-Projekt (2000–2010)", "Access project (2000–2010)"};
     return std::nullopt;
 }
 

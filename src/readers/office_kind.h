@@ -15,7 +15,7 @@ namespace zentlor::readers {
 /// document.
 std::optional<Sentence> DescribeOpenXml(std::string_view contentTypes, const std::vector<ZipPart>& parts);
 
-/// The kind of a compound file by the streams of its root; nothing for one that no Office program writes.
+/// The kind of a compound file by what its root holds; nothing for one that no Office program writes.
 std::optional<Sentence> DescribeCompoundFile(const Storage& root);
 
 }  // namespace zentlor::readers

@@ -3,12 +3,9 @@
 
 #include "readers/ppt_records.h"
 
-#include <zlib.h>
-
-#include <algorithm>
-
 #include "readers/byte_reader.h"
 #include "readers/container.h"
+#include "readers/inflate.h"
 
 namespace zentlor::readers {
 namespace {
@@ -16,32 +13,8 @@ namespace {
 constexpr std::uint16_t kEmbeddedStorage = 0x1011;
 constexpr std::size_t kHeadBytes = 8;
 constexpr std::size_t kMaximumStorages = 1000;
-// No deflated data unpack to more than this many times their size.
-constexpr std::uint64_t kHighestRatio = 1032;
 
 }  // namespace
-
-std::string InflateLeniently(std::string_view packed, std::uint64_t maximum) {
-    std::string out;
-    z_stream stream{};
-    if (inflateInit(&stream) != Z_OK) return out;
-    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(packed.data()));
-    stream.avail_in = static_cast<uInt>(std::min<std::size_t>(packed.size(), 0x7FFFFFFF));
-    char buffer[16384];
-    // Growing by doubling would hold up to three times the bytes; what is reserved and never written costs nothing.
-    out.reserve(std::min<std::uint64_t>(maximum, kHighestRatio * packed.size()));
-    int status = Z_OK;
-    while (status == Z_OK && out.size() < maximum) {
-        stream.next_out = reinterpret_cast<Bytef*>(buffer);
-        stream.avail_out = sizeof(buffer);
-        status = inflate(&stream, Z_NO_FLUSH);
-        // Also where it fails, what was unpacked up to there is good.
-        out.append(buffer, sizeof(buffer) - stream.avail_out);
-    }
-    inflateEnd(&stream);
-    if (out.size() > maximum) out.resize(maximum);
-    return out;
-}
 
 PptStorages FindPptStorages(std::string_view stream, std::uint64_t maximum) {
     PptStorages found;

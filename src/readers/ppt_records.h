@@ -22,8 +22,4 @@ struct PptStorages {
 /// Reads the stream "PowerPoint Document". `maximum` bounds the bytes of all storages together.
 PptStorages FindPptStorages(std::string_view stream, std::uint64_t maximum);
 
-/// Unpacks zlib data as far as it goes: a wrong check sum and an early end cost nothing of what came before.
-/// At most `maximum` bytes.
-std::string InflateLeniently(std::string_view packed, std::uint64_t maximum);
-
 }  // namespace zentlor::readers

@@ -26,9 +26,10 @@ FoundProject Search(const Storage& storage, std::uint32_t depth, std::uint32_t m
 }  // namespace
 
 FoundProject FindOvbaProject(const Storage& root, std::uint32_t maximumDepth) {
-    // Excel's place and Word's.
-    for (const TextView place : {TextView(u"_VBA_PROJECT_CUR"), TextView(u"Macros")}) {
-        auto project = root.OpenStorage(place);
+    // The places of Excel, Word and Access.
+    const std::vector<Text> places[] = {{u"_VBA_PROJECT_CUR"}, {u"Macros"}, {u"VBA", u"VBAProject"}};
+    for (const auto& place : places) {
+        auto project = OpenPath(root, place);
         if (project && HoldsOvbaProject(*project)) return {std::move(project), false};
     }
     return Search(root, 0, maximumDepth);

@@ -44,12 +44,12 @@ bool IsFolder(std::string_view name) {
     return !name.empty() && name.back() == '/';
 }
 
-bool NameIsReasonable(std::string_view name) {
+}  // namespace
+
+bool ZipNameIsReasonable(std::string_view name) {
     return name.size() <= kLongestName && std::count(name.begin(), name.end(), '/') <= kDeepestName &&
            name.find('\0') == std::string_view::npos;
 }
-
-}  // namespace
 
 ZipDirectory ReadZipDirectory(std::string_view bytes, std::uint32_t maximumParts) {
     ZipDirectory directory;
@@ -63,7 +63,7 @@ ZipDirectory ReadZipDirectory(std::string_view bytes, std::uint32_t maximumParts
         const std::size_t nameLength = U16At(bytes, at + 28);
         const std::size_t rest = nameLength + U16At(bytes, at + 30) + U16At(bytes, at + 32);
         const std::string_view name = BytesAt(bytes, at + kEntryBytes, nameLength);
-        if (rest > bytes.size() - at - kEntryBytes || !NameIsReasonable(name)) return directory;
+        if (rest > bytes.size() - at - kEntryBytes || !ZipNameIsReasonable(name)) return directory;
         if (!IsFolder(name)) {
             directory.parts.push_back({std::string(name), U32At(bytes, at + 20), U32At(bytes, at + 24)});
         }

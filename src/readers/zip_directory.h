@@ -20,6 +20,9 @@ struct ZipDirectory {
     std::vector<ZipPart> parts;
 };
 
+/// Whether `name` is one that an Office program could write: of a length and depth that costs a library nothing.
+bool ZipNameIsReasonable(std::string_view name);
+
 ZipDirectory ReadZipDirectory(std::string_view bytes, std::uint32_t maximumParts);
 
 }  // namespace zentlor::readers

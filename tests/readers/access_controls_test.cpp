@@ -26,6 +26,12 @@ std::string Describe(const std::vector<readers::FormLayout>& layouts) {
     return text;
 }
 
+readers::Document LayoutsOf(const StorageTree& tree) {
+    readers::Document document;
+    readers::AddFormLayouts(*AsStorage(tree), 1252, document);
+    return document;
+}
+
 TEST(AccessControls, AreReadWithTheirRealNamesAndTypes) {
     const StorageTree tree = WriteAccessTree({}, {{u"Orders",
                                                    false,
@@ -37,7 +43,7 @@ TEST(AccessControls, AreReadWithTheirRealNamesAndTypes) {
                                                     {"GroupFooter", "", 0x9F}}},
                                                   {u"Bill", true, {{"cmd", "", 104}}},
                                                   {u"\u00DCbersicht", false, {}}});
-    EXPECT_EQ(Describe(readers::ReadFormLayouts(*AsStorage(tree), 1252)),
+    EXPECT_EQ(Describe(LayoutsOf(tree).layouts),
               "F Orders: Text 1=109 Mærkat86=100 Tree=119\nF Übersicht:\nR Bill: cmd=104\n");
 }
 
@@ -83,7 +89,7 @@ TEST(AccessControls, SurviveDirectoriesThatLie) {
     for (const auto& row : rows) {
         StorageTree tree = WriteAccessTree({}, {{u"A", false, {{"x", "", 109}}}});
         tree.Below(u"Forms").BytesOf(u"\u0003DirData") = row.directory;
-        EXPECT_EQ(Describe(readers::ReadFormLayouts(*AsStorage(tree), 1252)), row.expected) << row.why;
+        EXPECT_EQ(Describe(LayoutsOf(tree).layouts), row.expected) << row.why;
     }
 }
 
@@ -107,10 +113,9 @@ TEST(AccessControls, EndWhereNoDatabaseGoes) {
         tree.Below(u"Forms").BytesOf(u"\u0003DirData") = directory;
         tree.Below(u"Forms").Below(u"0").BytesOf(u"TypeInfo") =
             WriteTypeInfo(std::vector<TestControl>(row.controls, {"x", "", 109}));
-        bool incomplete = false;
-        const std::size_t count = readers::ReadFormLayouts(*AsStorage(tree), 1252, &incomplete).size();
-        EXPECT_LE(count, row.expected) << row.why;
-        EXPECT_EQ(incomplete, count < row.entries) << row.why;
+        const readers::Document document = LayoutsOf(tree);
+        EXPECT_LE(document.layouts.size(), row.expected) << row.why;
+        EXPECT_EQ(!document.problems.empty(), document.layouts.size() < row.entries) << row.why;
     }
 }
 

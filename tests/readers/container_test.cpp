@@ -170,6 +170,47 @@ TEST(Zip, LetsTheLibraryComplainToNobody) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+TEST(Zip, FindsPartsWithoutTheDirectory) {
+    const std::string inner = WriteZip({{"innen", "PK\3\4 steht auch hier"}});
+    for (const bool sizesFollow : {false, true}) {
+        const std::string whole = WriteZip({{"a/", ""},
+                                            {"a/xml", std::string(100000, 'z'), true, std::nullopt, sizesFollow},
+                                            {"a/stored.zip", inner, false},
+                                            {"leer", "", true, std::nullopt, sizesFollow},
+                                            {"letzter", std::string(50000, 'y') + "ende", true}});
+        const std::size_t directory = whole.find("PK\1\2\x14", whole.find("letzter"));
+        struct Row {
+            const char* why;
+            std::size_t length;
+            std::size_t parts;
+            bool lastDamaged;
+        };
+        const Row rows[] = {{"the end record is missing", whole.size() - 30, 4, false},
+                            {"all of the directory is missing", directory, 4, false},
+                            {"the last part is cut off", directory - 9, 4, true},
+                            {"and its head", whole.find("letzter") + 3, 3, false}};
+        for (const Row& row : rows) {
+            const std::string bytes = whole.substr(0, row.length);
+            bool salvaged = false;
+            const auto zip = OpenZip(bytes, "x", {}, &salvaged);
+            ASSERT_TRUE(zip && salvaged) << row.why;
+            ASSERT_EQ(zip->Parts().size(), row.parts) << row.why;
+            EXPECT_EQ(zip->Parts()[0].name, "a/xml");
+            bool damaged = false;
+            EXPECT_EQ(zip->Read(0, 1 << 20, &damaged), std::string(100000, 'z')) << row.why;
+            EXPECT_EQ(zip->Read(0, 3, &damaged), "zzz");
+            EXPECT_EQ(zip->Read(1, 1 << 20, &damaged), inner) << "a head inside of a part is none";
+            EXPECT_EQ(zip->Read(2, 1 << 20, &damaged), "");
+            EXPECT_FALSE(damaged) << row.why;
+            const std::string last = zip->Read(row.parts - 1, 1 << 20, &damaged);
+            EXPECT_EQ(damaged, row.lastDamaged) << row.why;
+            EXPECT_EQ(last.substr(0, 50000), std::string(std::min<std::size_t>(last.size(), 50000), 'y'));
+        }
+    }
+    EXPECT_FALSE(OpenZip("PK\3\4", "x", {}));
+    EXPECT_FALSE(OpenZip("PK\3\4" + std::string(100, '\0'), "x", {})) << "a head without a name";
+}
+
 TEST(Zip, RefusesDirectoriesThatNoOfficeProgramWrites) {
     const std::string good = WriteZip({{"teil", "inhalt"}});
     ASSERT_TRUE(ReadZipDirectory(good, 10).sound);
@@ -195,12 +236,14 @@ TEST(Zip, CountsPartsBeforeItUnpacksAny) {
     limits.zipParts = 20;
     EXPECT_TRUE(OpenZip(bytes, "x.xlsm", limits));
     limits.zipParts = 19;
-    try {
-        OpenZip(bytes, "x.xlsm", limits);
-        ADD_FAILURE() << "the limit was passed over";
-    } catch (const ReadError& error) {
-        EXPECT_EQ(error.failure, ReadFailure::Limit);
-        EXPECT_EQ(error.sentence.english, "\"x.xlsm\" holds more than 19 parts; --max-zip-parts raises the limit.");
+    for (const std::string& zip : {bytes, bytes.substr(0, bytes.size() - 1)}) {
+        try {
+            OpenZip(zip, "x.xlsm", limits);
+            ADD_FAILURE() << "the limit was passed over";
+        } catch (const ReadError& error) {
+            EXPECT_EQ(error.failure, ReadFailure::Limit);
+            EXPECT_EQ(error.sentence.english, "\"x.xlsm\" holds more than 19 parts; --max-zip-parts raises the limit.");
+        }
     }
 }
 

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "core/utilities/encoding.h"
+#include "readers/inflate.h"
 #include "readers/ppt_records.h"
 #include "readers/property_set.h"
+#include "support/documents/access_writer.h"
 #include "support/documents/bytes.h"
 #include "support/documents/compound_file_writer.h"
 #include "support/documents/ovba_writer.h"
@@ -94,6 +96,21 @@ TEST(OfficeDocument, FindsTheProjectWhereverAProgramPutsIt) {
     }
 }
 
+TEST(OfficeDocument, ReadsAnAccessProjectWithItsForms) {
+    TestProject project;
+    project.modules = {{u"Form_Kunden", "Attribute VB_Name = \"Form_Kunden\"\r\nDim a\r\n", "DocClass"}};
+    const Document document = Read(Compound(test::WriteAccessTree(project, {{u"Kunden", false, {{"Ort", "", 109}}}})));
+    EXPECT_EQ(document.description.english, "Access project (2000–2010)");
+    ASSERT_EQ(document.modules.size(), 1u);
+    EXPECT_EQ(document.modules[0].type, ModuleType::Document);
+    ASSERT_EQ(document.layouts.size(), 1u);
+    EXPECT_EQ(document.layouts[0].controls.size(), 1u);
+    EXPECT_TRUE(document.problems.empty());
+    project.modules[0].container = "";
+    const std::string compiledOnly = Compound(test::WriteAccessTree(project));
+    EXPECT_THROW(Read(compiledOnly), ReadError) << "an .ade";
+}
+
 TEST(OfficeDocument, PrefersItsOwnProjectToOneOfAnEmbeddedDocument) {
     const std::string embedded = Binary(u"Workbook", {u"_VBA_PROJECT_CUR"});
     const Document zip = Read(test::WriteZip({{"[Content_Types].xml", ""},
@@ -128,6 +145,7 @@ TEST(OfficeDocument, SaysWhyNothingCanBeRead) {
     StorageTree damaged = Project();
     damaged.Below(u"VBA").Put(u"dir", "x");
     const std::string project = Compound(Project());
+    const std::string zip = test::WriteZip(test::WorkbookParts(project));
     struct Row {
         const char* why;
         std::string bytes;
@@ -140,7 +158,8 @@ TEST(OfficeDocument, SaysWhyNothingCanBeRead) {
         {"a text", "Dim a\r\n", ReadFailure::NotADocument},
         {"the source removed", Compound(wiped), ReadFailure::CompiledOnly},
         {"no list of modules", Compound(damaged), ReadFailure::Damaged},
-        {"a zip that is cut off", test::WriteZip(test::WorkbookParts(project)).substr(0, 600), ReadFailure::Damaged},
+        {"a zip that is cut off", zip.substr(0, 600), ReadFailure::Damaged},
+        {"and in front of its project", zip.substr(0, zip.find("xl/vbaProject.bin") - 10), ReadFailure::Damaged},
         {"a compound file that is cut off", project.substr(0, 1024), ReadFailure::Damaged},
         {"a project that is cut off", test::WriteZip(test::WorkbookParts(project.substr(0, 1024))),
          ReadFailure::Damaged},
@@ -193,6 +212,15 @@ TEST(OfficeDocument, ReadsWhatIsThereOfACutOffFile) {
     EXPECT_EQ(document.modules.size(), 1u);
     ASSERT_EQ(document.problems.size(), 1u);
     EXPECT_NE(document.problems[0].english.find("is damaged or cut off"), std::string::npos);
+}
+
+TEST(OfficeDocument, IsReadFromAZipWithoutItsEnd) {
+    const std::string zip = test::WriteZip(test::WorkbookParts(Compound(Project())));
+    const Document document = Read(zip.substr(0, zip.rfind("PK\1\2")));
+    EXPECT_EQ(document.modules.size(), 1u);
+    EXPECT_EQ(document.application, "Microsoft Excel 16");
+    ASSERT_EQ(document.problems.size(), 1u);
+    EXPECT_NE(document.problems[0].english.find("is damaged: the directory"), std::string::npos);
 }
 
 TEST(PptRecords, UnpacksWithoutCheckSumAndToAnEarlyEnd) {

@@ -11,7 +11,7 @@ namespace {
 std::string CommonHead(const ZipTestPart& part, const std::string& packed) {
     std::string head;
     Put16(head, 20);
-    Put16(head, 0);
+    Put16(head, part.sizesFollow ? 8 : 0);
     Put16(head, part.deflated ? 8 : 0);
     Put32(head, 0);
     Put32(head, static_cast<std::uint32_t>(
@@ -50,7 +50,12 @@ std::string WriteZip(const std::vector<ZipTestPart>& parts) {
         Put32(directory, 0);
         Put32(directory, static_cast<std::uint32_t>(zip.size()));
         directory += part.name;
-        zip.append("PK\3\4").append(head).append(part.name).append(packed);
+        std::string localHead = head;
+        // Check sum, packed and unpacked size.
+        const std::string sizes = head.substr(10, 12);
+        if (part.sizesFollow) localHead.replace(10, 12, 12, '\0');
+        zip.append("PK\3\4").append(localHead).append(part.name).append(packed);
+        if (part.sizesFollow) zip.append("PK\7\10").append(sizes);
     }
     const std::size_t start = zip.size();
     zip.append(directory).append("PK\5\6\0\0\0\0", 8);

@@ -15,6 +15,8 @@ struct ZipTestPart {
     bool deflated = true;
     /// The unpacked size that the zip claims, if it is to lie.
     std::optional<std::uint32_t> claimedSize = std::nullopt;
+    /// The head in front of the data leaves the sizes open, and they stand behind the data.
+    bool sizesFollow = false;
 };
 
 std::string WriteZip(const std::vector<ZipTestPart>& parts);
