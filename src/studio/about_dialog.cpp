@@ -52,7 +52,7 @@ void AboutDialog::CreateControls() {
     setFixedSize(twips.ToPixels(kClient).size());
     auto* picture = new QLabel(this);
     picture->setGeometry(twips.ToPixels(kPicture));
-    picture->setPixmap(QIcon(QStringLiteral(":/icons/zentlor-studio.svg")).pixmap(picture->size()));
+    picture->setPixmap(QIcon(QStringLiteral(":/icons/zentlor.svg")).pixmap(picture->size()));
     AddLabel(kTitle, 15.75, true)->setText(ToQString(kProductName));
     description_ = AddLabel(kDescription, 9);
     version_ = AddLabel(kVersion, 8.25);

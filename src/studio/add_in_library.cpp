@@ -13,11 +13,11 @@ constexpr TextView kPaneClass = u"Zentlor.docAddIn";
 }  // namespace
 
 // Members stand in the order in which they need each other.
-class AddInLibrary::Component : public PaneDialogs {
+class AddInLibrary::Component : public PaneDialogs, public EventPump {
   public:
     explicit Component(const Environment& environment)
         : pane(environment.words),
-          session({environment.editor, pane, environment.events, environment.settings, boxes_, clock_}),
+          session({environment.editor, pane, *this, environment.settings, boxes_, clock_}),
           addIn(session),
           environment_(environment) {}
 
@@ -31,6 +31,11 @@ class AddInLibrary::Component : public PaneDialogs {
         return &pane;
     }
 
+    // A change of language in the middle of a component's run shows the list, which then fills before the user's eyes.
+    void DoEvents() override {
+        pane.ShowNewRows();
+        environment_.events.DoEvents();
+    }
     void ShowOptionen() override {
         OptionsDialog dialog(session, xml_, environment_.dataFolder, pane.window());
         dialog.exec();

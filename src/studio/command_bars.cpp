@@ -19,7 +19,7 @@ class QtCommandBar::Control : public CommandBarControl {
     Text Caption() const override { return FromQString(Action().text()); }
     void SetCaption(TextView caption) override { Action().setText(ToQString(caption)); }
     // Every built-in picture is the add-in's own here: the studio has no others to offer.
-    void SetFaceId(int) override { Action().setIcon(StrokeIcon(QStringLiteral("zentlor"))); }
+    void SetFaceId(int) override { Action().setIcon(StrokeIcon(QStringLiteral("mark"))); }
     void SetBeginGroup(bool beginGroup) override {
         delete separator_;
         if (beginGroup) separator_ = menu_.insertSeparator(&Action());

@@ -80,7 +80,7 @@ void ShowAddInManager(const Words& words, AddInManager& manager, QWidget* parent
     list->header()->resizeSection(0, 200);
     list->setMinimumSize(430, 130);
     auto* row = new QTreeWidgetItem(list);
-    row->setIcon(0, StrokeIcon(QStringLiteral("zentlor")));
+    row->setIcon(0, StrokeIcon(QStringLiteral("mark")));
     list->setCurrentItem(row);
     FillAddInRow(words, manager, *row);
     auto* loaded = new QCheckBox(words(Word::Loaded));

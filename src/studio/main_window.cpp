@@ -33,7 +33,7 @@ MainWindow::MainWindow(const Words& words, OpenProjects& projects)
       findBar_(new FindBar(words)),
       errors_(new QTreeView),
       position_(new QLabel) {
-    setWindowIcon(QIcon(QStringLiteral(":/icons/zentlor-studio.svg")));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/zentlor.svg")));
     setAcceptDrops(true);
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);

@@ -81,6 +81,10 @@ void PaneWidget::CreateLabels() {
         label->setTextFormat(Qt::PlainText);
         label->hide();
     }
+    untersuchtesObjekt_->setObjectName(QStringLiteral("lblUntersuchtesObjekt"));
+    objekt_->setObjectName(QStringLiteral("lblObjekt"));
+    aktuellerTest_->setObjectName(QStringLiteral("lblAktuellerTest"));
+    test_->setObjectName(QStringLiteral("lblTest"));
     objekt_->setText(QStringLiteral("???"));
     test_->setText(QStringLiteral("???"));
 }
@@ -144,6 +148,10 @@ void PaneWidget::FocusList() {
 
 void PaneWidget::ListChanged() {
     PublishRows();
+}
+
+void PaneWidget::ShowNewRows() {
+    if (!list_->isHidden() && list_->Hints().rowCount() != static_cast<int>(results_->Count())) PublishRows();
 }
 
 void PaneWidget::PublishRows() {

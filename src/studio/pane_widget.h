@@ -31,6 +31,8 @@ class PaneWidget : public QWidget, public PaneView, public PaneTexts {
     /// The button at a position of the toolbar, counted from 1 with the separators; nullptr for a separator.
     QToolButton* Button(int position) const { return buttons_[static_cast<std::size_t>(position - 1)]; }
     QString PanelText(int panel) const { return panels_[static_cast<std::size_t>(panel - 1)]->text(); }
+    /// Shows the hints that have come since, if the list is to be seen.
+    void ShowNewRows();
     /// Writes the names that only assistive technology tells.
     void Retranslate();
 

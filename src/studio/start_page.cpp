@@ -22,7 +22,7 @@ QString Shortened(const QString& path) {
 
 QLabel* Picture() {
     auto* picture = new QLabel;
-    picture->setPixmap(QIcon(QStringLiteral(":/icons/zentlor-studio.svg")).pixmap(kPictureSize, kPictureSize));
+    picture->setPixmap(QIcon(QStringLiteral(":/icons/zentlor.svg")).pixmap(kPictureSize, kPictureSize));
     return picture;
 }
 

@@ -72,6 +72,15 @@ TEST(Help, EveryLinkLeadsToAPage) {
     for (const std::string& name : names) EXPECT_EQ(reached.count(name), 1U) << "nothing leads to " << name;
 }
 
+TEST(Help, NamesItselfOnceAndLetsNoLinesRunTogether) {
+    for (const HelpFile& file : HelpFiles(AllPages(), "# R")) {
+        const auto holds = [&](const char* text) { return file.content.find(text) != std::string::npos; };
+        const bool isCheck = file.name.ends_with(".html") && file.name != "index.html" && file.name != "readme.html";
+        EXPECT_EQ(holds("<p>Group: "), isCheck) << file.name;
+        EXPECT_EQ(holds("<title>Zentlor</title>"), file.name == "index.html") << file.name;
+    }
+}
+
 TEST(Markup, LinksOfTheProjectBecomeLinksOfTheHelp) {
     const auto pageOf = [](const std::string& target) {
         return target == "x.md" ? std::string("x.html") : std::string();

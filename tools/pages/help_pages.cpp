@@ -26,6 +26,7 @@ constexpr const char* kStyle =
     "th, td { text-align: left; padding: 0.1em 1em 0.1em 0; }\n";
 
 constexpr int kTabCaptions = 119;
+constexpr const char* kOverview = "Überblick · Overview";
 
 std::string Caption(int message) {
     return ToUtf8(GetResourceString(kDeutsch, message)) + " · " + ToUtf8(GetResourceString(kEnglish, message));
@@ -62,7 +63,7 @@ std::string Heading(const char* tag, const std::string& text) {
 
 std::string IndexBody() {
     std::string body = Heading("h1", "Zentlor");
-    body += "<p>" + Escaped(Caption(117)) + "</p>\n<ul>\n<li>" + Link("readme.html", "Zentlor") + "</li>\n</ul>\n";
+    body += "<p>" + Escaped(Caption(117)) + "</p>\n<ul>\n<li>" + Link("readme.html", kOverview) + "</li>\n</ul>\n";
     int caption = kTabCaptions;
     for (const CheckGroup group : {CheckGroup::Module, CheckGroup::Procedures, CheckGroup::Commands}) {
         body += Heading("h2", Caption(caption++)) + "<ul>\n";
@@ -79,8 +80,12 @@ std::string BackLink() {
     return "<p>" + Link("index.html", "Inhalt · Contents") + "</p>\n";
 }
 
+// The check's label and its place in the dialog stand on two lines of the page, and apart in the help.
 std::string CheckBody(const CheckPage& page) {
-    return BackLink() + HtmlOf(page.markdown, PageOf);
+    std::string markdown = page.markdown;
+    const auto group = markdown.find("\nGroup: ");
+    if (group != std::string::npos) markdown.insert(group, "\n");
+    return BackLink() + HtmlOf(markdown, PageOf);
 }
 
 }  // namespace
@@ -88,7 +93,7 @@ std::string CheckBody(const CheckPage& page) {
 std::vector<HelpFile> HelpFiles(const std::vector<CheckPage>& pages, const std::string& readme) {
     std::vector<HelpFile> files = {{"style.css", kStyle},
                                    {"index.html", Html("Zentlor", IndexBody())},
-                                   {"readme.html", Html("Zentlor", BackLink() + HtmlOf(readme, PageOf))}};
+                                   {"readme.html", Html(kOverview, BackLink() + HtmlOf(readme, PageOf))}};
     for (const CheckPage& page : pages) {
         files.push_back({FileOf(page.id), Html(Caption(InfoOf(page.id).label), CheckBody(page))});
     }
