@@ -23,8 +23,8 @@ class Capitalisation {
     /// declaration is the first. Returns the numbers of the names that the module holds, each once.
     std::vector<std::uint32_t> Learn(const Tokens& tokens, TextView text);
 
-    /// The capitalisation of a name that was learned. Asks for nothing but the name: whether a word stands for a keyword
-    /// at its place is the caller's matter.
+    /// The capitalisation of a name that was learned. Asks for nothing but the name: whether a word stands for a
+    /// keyword at its place is the caller's matter.
     TextView SpellingOf(TextView name) const { return names_.SpellingOf(name); }
 
     /// False if the name stands everywhere as `SpellingOf` gives it, and is no contextual word that was declared in
