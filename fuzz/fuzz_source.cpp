@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/analysis/run_driver.h"
@@ -26,7 +27,8 @@ std::vector<SourceModule> ReadModules(std::string_view bytes) {
         const std::size_t end = bytes.find('\f');
         more = end != std::string_view::npos;
         const std::string path = "modul" + std::to_string(modules.size()) + (more ? ".bas" : ".cls");
-        modules.push_back(zentlor::readers::ReadExportedModule(bytes.substr(0, end), path));
+        auto module = zentlor::readers::ReadExportedModule(bytes.substr(0, end), path);
+        if (module) modules.push_back(std::move(*module));
         bytes.remove_prefix(more ? end + 1 : bytes.size());
     }
     return modules;

@@ -1,7 +1,6 @@
 #include "readers/exported_module.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/utilities/encoding.h"
 #include "readers/attributes.h"
@@ -30,28 +29,46 @@ bool IsAccessExport(TextView text) {
     return start.starts_with(u"Version =") || start.starts_with(u"Version=");
 }
 
-// An Access export holds the layout of a form or report first. Offset of the code, and the number of lines in front of
-// it; the text's end where the export has no code.
-struct CodeStart {
-    std::size_t offset = 0;
+// An Access export holds the layout of a form or report first, and its code behind a line of its own.
+struct AccessExport {
+    bool report = false;
+    /// Offset of the code, and the number of lines in front of it; nothing where the form has no module.
+    std::optional<std::size_t> code = std::nullopt;
     std::uint32_t linesBefore = 0;
+    /// Without code the layout is the last thing in the file, and its end the last line.
+    bool complete = false;
 };
-CodeStart FindCodeBehind(TextView text) {
-    CodeStart start;
-    while (start.offset < text.size()) {
-        const std::size_t end = std::min(text.find_first_of(u"\r\n", start.offset), text.size());
-        const TextView line = text.substr(start.offset, end - start.offset);
+AccessExport FindCodeBehind(TextView text, bool report) {
+    AccessExport found{report};
+    bool inLayout = false;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find_first_of(u"\r\n", at), text.size());
+        const TextView line = RTrim(text.substr(at, end - at));
         const bool crLf = text.substr(end).starts_with(u"\r\n");
-        start.offset = std::min(end + (crLf ? 2 : 1), text.size());
-        ++start.linesBefore;
-        if (RTrim(line) == kCodeBehind) return start;
+        at = std::min(end + (crLf ? 2 : 1), text.size());
+        ++found.linesBefore;
+        if (!inLayout && line.starts_with(u"Begin")) {
+            inLayout = true;
+            if (line == u"Begin Form") found.report = false;
+            if (line == u"Begin Report") found.report = true;
+        }
+        if (!line.empty()) found.complete = line == u"End";
+        if (line != kCodeBehind) continue;
+        found.code = at;
+        break;
     }
-    return start;
+    return found;
 }
 
-ModuleType TypeOf(const std::string& ending, const StrippedCode& stripped, TextView name, bool accessExport) {
+// The module of the form Kunden is called Form_Kunden, but its export names the form alone, in the name of its file.
+Text NameOfAccessModule(const Text& stem, bool report) {
+    const TextView prefix = report ? TextView(u"Report_") : TextView(u"Form_");
+    if (EqualIgnoringCase(TextView(stem).substr(0, prefix.size()), prefix)) return stem;
+    return Text(prefix) + stem;
+}
+
+ModuleType TypeOf(const std::string& ending, const StrippedCode& stripped, TextView name) {
     const bool accessName = name.starts_with(u"Form_") || name.starts_with(u"Report_");
-    if (accessExport) return ModuleType::Document;
     if (ending == ".frm" || stripped.kind == ExportHeader::Form) return ModuleType::Form;
     if (ending == ".cls" || stripped.kind == ExportHeader::Class) {
         const bool document = (stripped.predeclaredId && stripped.exposed) || accessName;
@@ -94,7 +111,7 @@ Text DecodeModuleText(std::string_view bytes) {
     return FromWindows1252(bytes);
 }
 
-SourceModule ReadExportedModule(std::string_view bytes, const std::string& path) {
+std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std::string& path) {
     const Text text = DecodeModuleText(bytes);
     if (FindCharacter(text, 0, u'\0') < text.size()) {
         Fail(ReadFailure::NotADocument,
@@ -104,19 +121,29 @@ SourceModule ReadExportedModule(std::string_view bytes, const std::string& path)
              "document or an Access database.",
              {path});
     }
-    const bool accessExport = IsAccessExport(text);
-    const CodeStart start = accessExport ? FindCodeBehind(text) : CodeStart{};
-    StrippedCode stripped = StripAttributes(TextView(text).substr(start.offset));
+    const std::string ending = LowerCaseEnding(path);
+    std::optional<AccessExport> access;
+    if (IsAccessExport(text)) access = FindCodeBehind(text, ending == ".report");
+    if (access && !access->code) {
+        if (access->complete) return std::nullopt;
+        Fail(ReadFailure::Damaged, "„[%1]“ bricht vor dem Code ab; exportieren Sie das Objekt in Access noch einmal.",
+             "“[%1]” breaks off in front of its code; export the object from Access once more.", {path});
+    }
+    StrippedCode stripped = StripAttributes(TextView(text).substr(access ? *access->code : 0));
 
     SourceModule module;
-    module.name = stripped.name.empty() ? FromUtf8(FileStem(path)) : std::move(stripped.name);
-    module.type = TypeOf(LowerCaseEnding(path), stripped, module.name, accessExport);
+    module.name = std::move(stripped.name);
+    if (module.name.empty()) {
+        const Text stem = FromUtf8(FileStem(path));
+        module.name = access ? NameOfAccessModule(stem, access->report) : stem;
+    }
+    module.type = access ? ModuleType::Document : TypeOf(ending, stripped, module.name);
     module.path = path;
     module.code = std::move(stripped.code);
     module.fileLines = std::move(stripped.fileLines);
     module.header = std::move(stripped.header);
     module.innerAttributes = std::move(stripped.innerAttributes);
-    ShiftFileLines(module, start.linesBefore);
+    if (access) ShiftFileLines(module, access->linesBefore);
     return module;
 }
 

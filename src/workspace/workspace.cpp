@@ -116,16 +116,24 @@ class Opener {
         {
             const Stopwatch watch(options_.times, &StageTimes::read);
             for (const std::string& file : files) {
-                Guard(file, [&] { document.modules.push_back(ReadModule(file)); });
+                Guard(file, [&] { TakeModule(file, document); });
             }
         }
         if (!document.modules.empty()) Add(std::move(document), false);
     }
 
-    readers::SourceModule ReadModule(const std::string& path) const {
+    void TakeModule(const std::string& path, readers::Document& document) {
         readers::Limits limits = options_.limits;
         limits.fileBytes = std::min(limits.fileBytes, 2 * limits.moduleBytes);
-        return readers::ReadExportedModule(readers::ReadWholeFile(path, limits), path);
+        auto module = readers::ReadExportedModule(readers::ReadWholeFile(path, limits), path);
+        if (module) {
+            document.modules.push_back(std::move(*module));
+            return;
+        }
+        readers::Document without;
+        without.path = path;
+        without.description = {"Access-Objekt als Text, ohne Code", "Access object as text, without code"};
+        workspace_.empty.push_back(std::move(without));
     }
 
     void Add(readers::Document&& document, bool isDocument) {

@@ -15,7 +15,9 @@ namespace {
 using test::TemporaryFolder;
 using test::WriteFile;
 
-std::string Describe(const readers::SourceModule& module) {
+std::string Describe(const std::optional<readers::SourceModule>& read) {
+    if (!read) return "none";
+    const readers::SourceModule& module = *read;
     return ToUtf8(module.name) + "/" + std::to_string(static_cast<int>(module.type)) + " " +
            ToUtf8(ReplaceAll(module.code, u"\n", u"|"));
 }
@@ -47,7 +49,17 @@ TEST(ExportedModule, IsReadInEveryForm) {
          "m/1 Sub A()|  x = \"Attribute VB_Name = 1\"|End Sub|"},
         {"Access export", "Kunden.txt",
          "Version =20\r\nBegin Form\r\nEnd\r\nCodeBehindForm\r\nAttribute VB_Exposed = False\r\nDim a\r\n",
-         "Kunden/100 Dim a|"},
+         "Form_Kunden/100 Dim a|"},
+        {"Access export of a report", "Liste.bas", "Version =20\nBegin Report\n    Begin Form\nCodeBehindForm\nDim a\n",
+         "Report_Liste/100 Dim a|"},
+        {"Access export that is called like its module", "form_Kunden.frm",
+         "Version =20\nBegin Form\nEnd\nCodeBehindForm\nDim a\n", "form_Kunden/100 Dim a|"},
+        {"Access export of a form whose name begins like a report's module", "Report_Wahl.txt",
+         "Version =20\nBegin Form\nEnd\nCodeBehindForm\nDim a\n", "Form_Report_Wahl/100 Dim a|"},
+        {"Access export with its module's name", "Kunden.cls",
+         "Version =20\nBegin Form\nEnd\nCodeBehindForm\nAttribute VB_Name = \"Form_Kunde\"\nDim a\n",
+         "Form_Kunde/100 Dim a|"},
+        {"Access export of a form without a module", "Kunden.form", "Version =20\nBegin Form\nEnd\n", "none"},
         {"Windows-1252", "m.bas", "Dim \xFC\x80", "m/1 Dim ü€|"},
         {"UTF-8 without a mark", "m.bas", "Dim ü", "m/1 Dim ü|"},
         {"UTF-8 with a mark", "m.bas",
@@ -61,6 +73,7 @@ TEST(ExportedModule, IsReadInEveryForm) {
     for (const Row& row : rows)
         EXPECT_EQ(Describe(readers::ReadExportedModule(row.bytes, row.path)), row.expected) << row.why;
     EXPECT_THROW(readers::ReadExportedModule(std::string("a\0b", 3), "m.bas"), readers::ReadError);
+    EXPECT_THROW(readers::ReadExportedModule("Version =20\nBegin Form\nEnd\nCode", "a.txt"), readers::ReadError);
 }
 
 TEST(Workspace, RemembersTheLinesOfTheFile) {
@@ -96,6 +109,18 @@ TEST(Workspace, FolderIsReadInByteOrder) {
     EXPECT_EQ(names(named.projects[0]), "b B ");
     ASSERT_EQ(named.unreadable.size(), 1U);
     EXPECT_EQ(named.unreadable[0].failure, readers::ReadFailure::NotFound);
+}
+
+TEST(Workspace, FormWithoutModuleIsNoModule) {
+    const TemporaryFolder folder;
+    WriteFile(folder.path / "Kunden.txt", "Version =20\nBegin Form\nEnd\nCodeBehindForm\nDim a\n");
+    WriteFile(folder.path / "Start.txt", "Version =20\nBegin Form\nEnd\n");
+    const Workspace opened = Open({folder.path.string()}, {});
+    ASSERT_EQ(opened.projects.size(), 1U);
+    EXPECT_EQ(opened.projects[0].project->VBComponents().size(), 1U);
+    EXPECT_EQ(opened.projects[0].origins[0].FileLine(1), 5);
+    EXPECT_EQ(opened.empty.size(), 1U);
+    EXPECT_TRUE(opened.Complete());
 }
 
 TEST(Workspace, NothingToReadIsNoCleanResult) {
