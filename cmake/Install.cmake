@@ -1,10 +1,21 @@
 # What an installation holds, and the package made of it. Included last, when every target is known.
 
+# zentlor_install_compressed(SOURCE NAME FOLDER): installs SOURCE below the data folder as FOLDER/NAME.gz, which is how
+# Debian wants manual pages and change logs. The bytes depend on nothing but the source's.
+find_program(ZENTLOR_GZIP gzip REQUIRED)
+function(zentlor_install_compressed source name folder)
+  set(packed ${CMAKE_BINARY_DIR}/packed/${name}.gz)
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/packed)
+  add_custom_command(OUTPUT ${packed} COMMAND ${ZENTLOR_GZIP} -9nc ${source} > ${packed} DEPENDS ${source} VERBATIM)
+  add_custom_target(packed_${name} ALL DEPENDS ${packed})
+  install(FILES ${packed} DESTINATION ${folder})
+endfunction()
+
 # A build of the command line alone has no studio.
 foreach(program zentlor zentlor-studio)
   if(TARGET ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-    install(FILES ${CMAKE_SOURCE_DIR}/docs/man/${program}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    zentlor_install_compressed(${CMAKE_SOURCE_DIR}/docs/man/${program}.1 ${program}.1 ${CMAKE_INSTALL_MANDIR}/man1)
   endif()
 endforeach()
 if(TARGET zentlor-studio)
@@ -13,6 +24,9 @@ if(TARGET zentlor-studio)
   install(FILES ${CMAKE_SOURCE_DIR}/data/icons/zentlor.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 endif()
+zentlor_install_compressed(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
+configure_file(${CMAKE_SOURCE_DIR}/data/copyright.in ${CMAKE_BINARY_DIR}/packed/copyright @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/packed/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zentlor)
@@ -25,11 +39,14 @@ what a review would find, in German or English: at the command line (zentlor)
 and in a window with the code beside the hints (zentlor-studio).")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 if(TARGET zentlor-studio)
-  # Loaded at run time, so no library dependency tells of them: the window system's plugins.
-  set(CPACK_DEBIAN_PACKAGE_DEPENDS qt6-qpa-plugins)
+  # Loaded at run time, so no library dependency tells of them: the window system's plugins, and the German words of
+  # the toolkit's own dialogs.
+  set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, qt6-translations-l10n")
 endif()
 include(CPack)
