@@ -142,6 +142,8 @@ class ModuleWriter {
                 if (token.keyword() == Keyword::EndIf) return ReplaceIfOther(token, u"End If");
                 return ReplaceIfOther(token, Spelling(token.keyword()));
             case TokenKind::Operator:
+                // A single character of ASCII stands for no operator but its own, or for a "?".
+                if (token.length == 1 && text_[token.offset] < 128 && !token.Is(Operator::Question)) return;
                 return ReplaceIfOther(token, FormOf(token.op()));
             case TokenKind::EndOfText:
             case TokenKind::EndOfLine:
@@ -176,7 +178,7 @@ class ModuleWriter {
     }
 
     void ReplaceIfOther(const Token& token, TextView form) {
-        if (TextOf(token, text_) != form) Replace(token.offset, token.End(), form);
+        if (!IsSame(TextOf(token, text_), form)) Replace(token.offset, token.End(), form);
     }
 
     void Replace(std::size_t from, std::size_t to, TextView form) {

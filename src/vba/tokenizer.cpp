@@ -6,6 +6,7 @@
 
 #include "vba/tokenizer.h"
 
+#include "core/utilities/character_blocks.h"
 #include "vba/characters.h"
 #include "vba/date_literal.h"
 
@@ -86,11 +87,13 @@ class Scanner {
     }
 
     void ScanWord() {
-        std::size_t end = at_ + 1;
-        std::uint8_t flags = text_[at_] < 128 ? 0 : kWide;
-        while (HasTraitAt(end, kNamePart)) {
-            if (text_[end] >= 128) flags |= kWide;
-            ++end;
+        std::size_t end = at_;
+        while (end < text_.size() && text_[end] < 128 && (kCharacterTable[text_[end]] & kNamePart) != 0) ++end;
+        std::uint8_t flags = 0;
+        if (end < text_.size() && text_[end] >= 128) {
+            const std::size_t narrowEnd = end;
+            while (HasTraitAt(end, kNamePart)) ++end;
+            if (end > narrowEnd) flags = kWide;
         }
         if (previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang)) flags |= kMember;
         const Keyword keyword = KeywordOf(text_.substr(at_, end - at_), flags);
@@ -183,10 +186,8 @@ class Scanner {
 
     void ScanString() {
         std::size_t end = at_ + 1;
-        while (end < text_.size() && text_[end] != u'\n') {
-            if (text_[end] != u'"') {
-                ++end;
-            } else if (end + 1 < text_.size() && text_[end + 1] == u'"') {
+        while ((end = FindAny(text_, end, u'"', u'\n')) < text_.size() && text_[end] == u'"') {
+            if (end + 1 < text_.size() && text_[end + 1] == u'"') {
                 end += 2;
             } else {
                 return Add(TokenKind::String, end + 1 - at_);
@@ -199,7 +200,7 @@ class Scanner {
     void ScanComment(std::size_t mark, Keyword word = Keyword::None) {
         std::size_t place = at_ + mark;
         while (true) {
-            while (place < text_.size() && text_[place] != u'\n') ++place;
+            place = FindCharacter(text_, place, u'\n');
             std::size_t last = place;
             while (last > at_ && HasTrait(text_[last - 1], kBlank)) --last;
             const bool continues =

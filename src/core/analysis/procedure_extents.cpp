@@ -99,8 +99,7 @@ char16_t FirstCharacter(TextView line) {
     return first == line.end() ? u'\0' : *first;
 }
 
-bool IsCommentLine(TextView line) {
-    const char16_t first = FirstCharacter(line);
+bool IsCommentLine(TextView line, char16_t first) {
     return first == u'\'' || (FoldCase(first) == u'r' && StatementReader(line).Take(u"Rem"));
 }
 
@@ -139,7 +138,9 @@ class ExtentFinder {
         for (int first = 1; first <= lines;) {
             int last = first;
             while (last < lines && IsContinuedLine(Line(last))) ++last;
-            if (!IsCommentLine(Line(first))) VisitLogicalLine(first, last);
+            const TextView line = Text(first, last);
+            const char16_t firstCharacter = FirstCharacter(line);
+            if (!IsCommentLine(line, firstCharacter)) VisitLogicalLine(first, last, line, firstCharacter);
             first = last + 1;
         }
         Finish(lines);
@@ -155,11 +156,8 @@ class ExtentFinder {
         return text_.substr(begin, lineStarts_[static_cast<std::size_t>(last)] - begin - 1);
     }
 
-    void VisitLogicalLine(int first, int last) {
-        const TextView line = Text(first, last);
-        const char16_t firstCharacter = FirstCharacter(line);
-        const bool bounds = open_ ? MayEndProcedure(firstCharacter) || FindCharacter(line, 0, u':') < line.size()
-                                  : MayBeHeader(firstCharacter);
+    void VisitLogicalLine(int first, int last, TextView line, char16_t firstCharacter) {
+        const bool bounds = open_ ? MayEndProcedure(firstCharacter) || HoldsColon(line) : MayBeHeader(firstCharacter);
         if (bounds) {
             bool startsLine = true;
             ForEachStatementOf(line, [&](TextView statement) {
@@ -169,6 +167,13 @@ class ExtentFinder {
         }
         const bool declares = first != last || firstCharacter != u'\0';
         if (result_.procedures.empty() && declares) result_.declarationLines = last;
+    }
+
+    // Lines are asked for from top to bottom.
+    bool HoldsColon(TextView line) {
+        const auto begin = static_cast<std::size_t>(line.data() - text_.data());
+        if (nextColon_ < begin) nextColon_ = FindCharacter(text_, begin, u':');
+        return nextColon_ < begin + line.size();
     }
 
     void VisitStatement(int first, int last, TextView statement, bool startsLine) {
@@ -219,6 +224,7 @@ class ExtentFinder {
     TextView text_;
     const std::vector<std::uint32_t>& lineStarts_;
     ModuleExtents result_;
+    std::size_t nextColon_ = 0;  // the first one behind the lines looked at
     bool open_ = false;
 };
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/utilities/character_blocks.h"
+
 namespace zentlor {
 
 namespace {
@@ -12,23 +14,25 @@ constexpr TextView kRemAtStart = u"Rem ";
 constexpr TextView kRemBehindColon = u": Rem";
 constexpr std::size_t kNone = TextView::npos;
 
-// Offset of the first character from `from` on that stands outside of strings and for which `matches` holds.
-template <class Matches>
-std::size_t FindUnquoted(TextView text, bool quoted, Matches matches) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
+// Offset of the first of `wanted` that stands outside of strings and for which `matches` holds.
+template <class Matches, class... Characters>
+std::size_t FindUnquoted(TextView text, bool quoted, Matches matches, Characters... wanted) {
+    for (std::size_t i = 0;; ++i) {
+        i = quoted ? FindAny(text, i, kQuote) : FindAny(text, i, kQuote, wanted...);
+        if (i == text.size()) return kNone;
         if (text[i] == kQuote) {
             quoted = !quoted;
-        } else if (!quoted && matches(i)) {
+        } else if (matches(i)) {
             return i;
         }
     }
-    return kNone;
 }
 
 std::size_t FindMark(TextView text, bool quoted) {
-    return FindUnquoted(text, quoted, [text](std::size_t i) {
-        return text[i] == u'\'' || (text[i] == u':' && text.substr(i).starts_with(kRemBehindColon));
-    });
+    const auto isMark = [text](std::size_t i) {
+        return text[i] == u'\'' || text.substr(i).starts_with(kRemBehindColon);
+    };
+    return FindUnquoted(text, quoted, isMark, u'\'', u':');
 }
 
 bool HasOddQuotes(TextView text) {
@@ -43,14 +47,14 @@ bool IstPosInQuotes(TextView strZeile, int lngPos) {
 
 bool QuoteCounter::IsQuoted(int column) {
     const auto end = std::min(text_.size(), static_cast<std::size_t>(std::max(column, 1) - 1));
-    for (; read_ < end; ++read_) {
-        if (text_[read_] == kQuote) odd_ = !odd_;
-    }
+    if (read_ < end) odd_ = odd_ != HasOddQuotes(text_.substr(read_, end - read_));
+    read_ = std::max(read_, end);
     return odd_;
 }
 
 int PosErsterDoppelPunkt(TextView strZeile) {
-    const std::size_t colon = FindUnquoted(strZeile, false, [&](std::size_t i) { return strZeile[i] == u':'; });
+    const std::size_t colon = FindUnquoted(
+        strZeile, false, [](std::size_t) { return true; }, u':');
     return colon == kNone ? 0 : static_cast<int>(colon) + 1;
 }
 

@@ -7,7 +7,6 @@
 #include <emmintrin.h>
 #endif
 
-#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -56,13 +55,21 @@ void ForEachPlace(TextView text, char16_t wanted, Visit visit) {
 /// Offset of the first of `wanted` at or behind offset `from`, or the text's size.
 template <class... Characters>
 std::size_t FindAny(TextView text, std::size_t from, Characters... wanted) {
+    const auto placesAt = [&](std::size_t block) { return (PlacesOf(wanted, text.data() + block) | ...); };
     std::size_t i = from;
     for (; i + kBlock <= text.size(); i += kBlock) {
-        const std::uint32_t places = (PlacesOf(wanted, text.data() + i) | ...);
-        if (places != 0) return i + static_cast<std::size_t>(std::countr_zero(places));
+        if (const std::uint32_t places = placesAt(i); places != 0) {
+            return i + static_cast<std::size_t>(std::countr_zero(places));
+        }
+    }
+    if (i >= text.size()) return text.size();
+    if (text.size() >= kBlock) {
+        const std::size_t last = text.size() - kBlock;  // a block that begins with characters already looked at
+        const std::uint32_t places = placesAt(last) >> (i - last);
+        return places == 0 ? text.size() : i + static_cast<std::size_t>(std::countr_zero(places));
     }
     while (i < text.size() && ((text[i] != wanted) && ...)) ++i;
-    return std::min(i, text.size());
+    return i;
 }
 
 }  // namespace zentlor
