@@ -90,6 +90,7 @@ class CommandLine {
         count("--max-zip-ratio", limits.zipRatio, "unpacked to packed size, behind the first MiB");
         count("--max-modules", limits.modules, "modules of one project");
         count("--max-storage-depth", limits.storageDepth, "nested storages of a compound file");
+        count("--max-storage-entries", limits.storageEntries, "storages and streams of a compound file");
     }
 
     void AddLanguage(CLI::App* sub) {

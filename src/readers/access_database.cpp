@@ -98,7 +98,7 @@ class DatabaseReader {
         if (storages_) return;
         compoundFile_ = JoinAccessObjects(file_, catalog).value_or(std::string{});
         if (compoundFile_.empty()) return;
-        storages_ = OpenCompoundFile(compoundFile_, path_);
+        storages_ = OpenCompoundFile(compoundFile_, path_, limits_);
         if (!storages_) file_.Damage().brokenRows = true;
     }
 

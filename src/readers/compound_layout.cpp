@@ -1,5 +1,6 @@
 #include "readers/compound_layout.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "readers/byte_reader.h"
@@ -16,6 +17,8 @@ constexpr std::size_t kEntryBytes = 128;
 constexpr std::uint32_t kMiniStreamCutoff = 4096;
 constexpr std::uint8_t kStorageEntry = 1;
 constexpr std::uint8_t kStreamEntry = 2;
+// The library takes a call for each step. Programs write balanced trees: a few dozen steps for a million entries.
+constexpr std::uint32_t kDeepestTree = 12288;
 
 class Measurer {
   public:
@@ -30,7 +33,9 @@ class Measurer {
         for (; sector < sectors_ && directory_.size() <= sectors_; sector = Next(sector)) directory_.push_back(sector);
         layout.directoryEntries = CountEntries();
         layout.sound = sector == kEndOfChain && !directory_.empty();
-        layout.tangled = layout.sound && IsTangled();
+        if (!layout.sound) return layout;
+        layout.tangled = IsTangled();
+        layout.tooDeep = deepest_ > kDeepestTree;
         return layout;
     }
 
@@ -96,19 +101,25 @@ class Measurer {
                        kEntryBytes);
     }
 
-    bool IsTangled() const {
+    // Measures the depth of the directory on its way.
+    bool IsTangled() {
         std::vector<bool> reached(CountEntries());
-        std::vector<std::uint32_t> waiting{0};
+        struct Waiting {
+            std::uint32_t index;
+            std::uint32_t depth;
+        };
+        std::vector<Waiting> waiting{{0, 1}};
         while (!waiting.empty()) {
-            const std::uint32_t index = waiting.back();
+            const auto [index, depth] = waiting.back();
             waiting.pop_back();
             if (index == kFree) continue;
+            deepest_ = std::max(deepest_, depth);
             if (index >= reached.size() || reached[index]) return true;
             reached[index] = true;
             // Its neighbours on the left and right and, for a storage, the top of what is below it.
             const std::string_view entry = EntryAt(index);
-            waiting.insert(waiting.end(), {U32At(entry, 0x44), U32At(entry, 0x48)});
-            if (U8At(entry, 0x42) != kStreamEntry) waiting.push_back(U32At(entry, 0x4C));
+            waiting.insert(waiting.end(), {{U32At(entry, 0x44), depth + 1}, {U32At(entry, 0x48), depth + 1}});
+            if (U8At(entry, 0x42) != kStreamEntry) waiting.push_back({U32At(entry, 0x4C), depth + 1});
         }
         for (std::size_t index = 0; index < reached.size(); ++index) {
             if (!reached[index] && BelongsToProject(EntryAt(index))) return true;
@@ -133,6 +144,7 @@ class Measurer {
     std::uint64_t sectors_ = 0;
     std::vector<std::uint32_t> tableSectors_;
     std::vector<std::uint32_t> directory_;
+    std::uint32_t deepest_ = 0;
 };
 
 }  // namespace

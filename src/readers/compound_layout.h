@@ -19,6 +19,8 @@ struct CompoundLayout {
     /// The directory is no tree: entries meet twice or lie outside, or a VBA project stands where nothing leads to. The
     /// library leaves out what it cannot reach, and the document would seem to hold no code.
     bool tangled = false;
+    /// The directory is deeper than a library can follow, and than any program makes it.
+    bool tooDeep = false;
 };
 
 CompoundLayout MeasureCompoundFile(std::string_view bytes);

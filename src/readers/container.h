@@ -40,8 +40,9 @@ bool HasCompoundSignature(std::string_view bytes);
 
 /// The root storage of the compound file `bytes`, or null if its header or directory cannot be read. `incomplete`,
 /// if given, becomes true where the file's own tables speak of sectors behind its end or of entries that nothing leads
-/// to. Throws `ReadError` with `Limit` where the directory is larger than any real document needs.
-std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, bool* incomplete = nullptr);
+/// to. Throws `ReadError` with `Limit` if its directory has more entries than `limits` allows.
+std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, const Limits& limits,
+                                          bool* incomplete = nullptr);
 
 /// The storage that `names` leads to from `root`, or null.
 std::unique_ptr<Storage> OpenPath(const Storage& root, const std::vector<Text>& names);

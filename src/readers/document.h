@@ -111,6 +111,9 @@ struct Limits {
     std::uint64_t sourceBytes = 256ull << 20;   ///< text of all modules of one document: --max-source-size
     std::uint32_t modules = 32767;              ///< modules of one project: --max-modules
     std::uint32_t storageDepth = 16;            ///< nested storages of a compound file: --max-storage-depth
+    /// Storages and streams of a compound file, free entries included: --max-storage-entries. The library's time grows
+    /// with its square: half a second for these.
+    std::uint32_t storageEntries = 12288;
 };
 
 }  // namespace zentlor::readers

@@ -15,9 +15,6 @@
 namespace zentlor::readers {
 namespace {
 
-// The library needs time with the square of the entries, and stack for each: these cost it half a second.
-constexpr std::uint64_t kMaximumEntries = 12288;
-
 Text Folded(TextView name) {
     Text folded(name);
     for (char16_t& c : folded) c = FoldCase(c);
@@ -77,19 +74,19 @@ class GsfStorage final : public Storage {
 
 }  // namespace
 
-std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, bool* incomplete) {
+std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::string& path, const Limits& limits,
+                                          bool* incomplete) {
     if (!HasCompoundSignature(bytes)) return nullptr;
     const CompoundLayout layout = MeasureCompoundFile(bytes);
     if (incomplete != nullptr) *incomplete = layout.truncated || layout.tangled;
     if (!layout.sound) return nullptr;
-    if (layout.directoryEntries > kMaximumEntries) {
+    if (layout.directoryEntries > limits.storageEntries) {
         Fail(ReadFailure::Limit,
-             "\"[%1]\" enthält mehr als [%2] Speicher und Datenströme, mehr als jedes echte Dokument; im "
-             "Ursprungsprogramm neu speichern.",
-             "\"[%1]\" holds more than [%2] storages and streams, more than any real document; save it anew in its "
-             "program.",
-             {path, std::to_string(kMaximumEntries)});
+             "\"[%1]\" enthält mehr als [%2] Speicher und Datenströme; --max-storage-entries hebt die Grenze an.",
+             "\"[%1]\" holds more than [%2] storages and streams; --max-storage-entries raises the limit.",
+             {path, std::to_string(limits.storageEntries)});
     }
+    if (layout.tooDeep) return nullptr;
     StartGsf();
     const GsfPointer<GsfInput> input(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),
                                                           static_cast<gsf_off_t>(bytes.size()), FALSE));

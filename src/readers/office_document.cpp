@@ -112,7 +112,7 @@ class DocumentReader {
             if (!HasCompoundSignature(zip.Read(i, 8))) continue;
             std::string part = UnpackPart(zip, i);
             bool incomplete = false;
-            const auto root = OpenCompoundFile(part, path_, &incomplete);
+            const auto root = OpenCompoundFile(part, path_, limits_, &incomplete);
             damagedPart_ |= !root || incomplete;
             if (root && HoldsOvbaProject(*root)) {
                 TakeProject(*root);
@@ -121,7 +121,7 @@ class DocumentReader {
             }
             if (root && embedded.empty() && FindBelow(*root)) embedded = std::move(part);
         }
-        const auto root = OpenCompoundFile(embedded, path_);
+        const auto root = OpenCompoundFile(embedded, path_, limits_);
         const auto project = root ? FindBelow(*root) : nullptr;
         if (project) TakeProject(*project);
         return project != nullptr;
@@ -146,7 +146,7 @@ class DocumentReader {
 
     void ReadCompound() {
         bool incomplete = false;
-        const auto root = OpenCompoundFile(bytes_, path_, &incomplete);
+        const auto root = OpenCompoundFile(bytes_, path_, limits_, &incomplete);
         if (!root) RefuseDamaged();
         RefuseEncrypted(*root);
         const auto description = DescribeCompoundFile(*root);
@@ -192,7 +192,7 @@ class DocumentReader {
         const PptStorages storages = FindPptStorages(*stream, unpackedLeft_);
         if (storages.limitHit) RefuseUnpacked("PowerPoint Document", false);
         for (const std::string& bytes : storages.compoundFiles) {
-            const auto embedded = OpenCompoundFile(bytes, path_);
+            const auto embedded = OpenCompoundFile(bytes, path_, limits_);
             if (!embedded || !HoldsOvbaProject(*embedded)) continue;
             TakeProject(*embedded);
             return true;

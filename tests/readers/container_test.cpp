@@ -31,7 +31,7 @@ StorageTree Sample() {
 TEST(CompoundFile, GivesStoragesAndStreams) {
     for (bool small : {true, false}) {
         const CompoundFile file = WriteCompoundFile(Sample(), {small, false});
-        const auto root = OpenCompoundFile(file.bytes, "x");
+        const auto root = OpenCompoundFile(file.bytes, "x", {});
         ASSERT_TRUE(root) << small;
         std::vector<Text> streams = root->StreamNames();
         std::sort(streams.begin(), streams.end());
@@ -49,7 +49,7 @@ TEST(CompoundFile, GivesStoragesAndStreams) {
 
 TEST(CompoundFile, ComparesNamesWithoutCase) {
     const CompoundFile file = WriteCompoundFile(Sample());
-    const auto root = OpenCompoundFile(file.bytes, "x");
+    const auto root = OpenCompoundFile(file.bytes, "x", {});
     ASSERT_TRUE(root);
     EXPECT_TRUE(root->ReadStream(u"KURZ", 5).has_value());
     const auto below = OpenPath(*root, {u"ORDNER", u"unten"});
@@ -62,7 +62,7 @@ TEST(CompoundFile, ReadsATableWithSectorsBeyondTheHeader) {
     StorageTree tree;
     tree.Put(u"gross", std::string(9 << 20, 'y'));
     const CompoundFile file = WriteCompoundFile(tree);
-    const auto root = OpenCompoundFile(file.bytes, "x");
+    const auto root = OpenCompoundFile(file.bytes, "x", {});
     ASSERT_TRUE(root);
     EXPECT_EQ(root->ReadStream(u"gross", 1 << 30).value_or("").size(), std::size_t{9} << 20);
 }
@@ -82,15 +82,15 @@ TEST(CompoundFile, RefusesWhatTheLibraryWouldTrust) {
         {"a small table larger than the file", 0x40, 0x7FFFFFFF},
         {"a directory outside of the file", 0x30, 0x00FFFFFF},
     };
-    ASSERT_TRUE(OpenCompoundFile(file.bytes, "x"));
+    ASSERT_TRUE(OpenCompoundFile(file.bytes, "x", {}));
     for (const Row& row : rows) {
         std::string bytes = file.bytes;
         test::Set32(bytes, row.offset, row.value);
         EXPECT_FALSE(MeasureCompoundFile(bytes).sound) << row.why;
-        EXPECT_FALSE(OpenCompoundFile(bytes, "x")) << row.why;
+        EXPECT_FALSE(OpenCompoundFile(bytes, "x", {})) << row.why;
     }
-    EXPECT_FALSE(OpenCompoundFile(file.bytes.substr(0, 400), "x")) << "half a header";
-    EXPECT_FALSE(OpenCompoundFile("", "x"));
+    EXPECT_FALSE(OpenCompoundFile(file.bytes.substr(0, 400), "x", {})) << "half a header";
+    EXPECT_FALSE(OpenCompoundFile("", "x", {}));
 }
 
 TEST(CompoundFile, TellsThatItsEndIsMissing) {
@@ -102,7 +102,7 @@ TEST(CompoundFile, TellsThatItsEndIsMissing) {
     const std::size_t sectors = bytes.size() / 512 - 1;
     test::Set32(bytes, file.fat + 4 * sectors, 0xFFFFFFFE);
     bool truncated = false;
-    EXPECT_TRUE(OpenCompoundFile(bytes, "x", &truncated));
+    EXPECT_TRUE(OpenCompoundFile(bytes, "x", {}, &truncated));
     EXPECT_TRUE(truncated);
 }
 
@@ -112,7 +112,7 @@ TEST(CompoundFile, GivesTheBytesInFrontOfDamage) {
     const CompoundFile file = WriteCompoundFile(tree);
     std::string bytes = file.bytes;
     test::Set32(bytes, file.fat + 4ull * 15, 0xFFFFFFFE);  // the chain of twenty sectors ends behind sixteen
-    const auto root = OpenCompoundFile(bytes, "x");
+    const auto root = OpenCompoundFile(bytes, "x", {});
     ASSERT_TRUE(root);
     bool damaged = false;
     const std::string read = root->ReadStream(u"lang", 1 << 20, &damaged).value_or("");

@@ -151,6 +151,8 @@ TEST(HostileOffice, RefusesStoragesWithoutEnd) {
     Limits limits;
     limits.storageDepth = 17;
     ExpectVerdict(Verdict(nested(17), limits), "0 modules", "raised");
+    limits.storageEntries = 30000;
+    ExpectVerdict(Verdict(nested(20000), limits), "is damaged", "deeper than a library's stack");
 }
 
 TEST(HostileOffice, RefusesEntriesWithoutEnd) {
@@ -159,6 +161,12 @@ TEST(HostileOffice, RefusesEntriesWithoutEnd) {
     for (bool list : {false, true}) {
         ExpectVerdict(Verdict(test::WriteCompoundFile(tree, {true, list}).bytes), "more than 12288 storages", "many");
     }
+    tree.streams.resize(12400);
+    tree.Put(u"WordDocument", "x");
+    Limits limits;
+    limits.storageEntries = 12500;
+    ExpectVerdict(Verdict(test::WriteCompoundFile(tree).bytes), "--max-storage-entries raises the limit", "a few more");
+    ExpectVerdict(Verdict(test::WriteCompoundFile(tree).bytes, limits), "0 modules", "raised");
 }
 
 TEST(HostileOffice, BoundsWhatAZipUnpacksTo) {
