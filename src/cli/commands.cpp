@@ -80,12 +80,17 @@ void PrintTroubles(const workspace::Workspace& opened, int sprache) {
     }
 }
 
+std::string CompileErrorWords(const workspace::ModuleOrigin& origin, const workspace::CompileError& error,
+                              int sprache) {
+    const vba::Sentence words = error.error.Words(origin.FileLine(error.error.relatedLine));
+    return sprache == 2 ? words.english : words.german;
+}
+
 std::string CompileErrorLine(const workspace::OpenedProject& project, const workspace::CompileError& error,
                              int sprache) {
     const workspace::ModuleOrigin& origin = project.origins[error.component];
-    const std::string& sentence = sprache == 2 ? error.error.sentence.english : error.error.sentence.german;
     return fmt::format("{}:{}:{}: {}", Printable(origin.path), origin.FileLine(error.error.line), error.error.column,
-                       Printable(sentence));
+                       Printable(CompileErrorWords(origin, error, sprache)));
 }
 
 bool WriteOutput(const std::string& path, const std::string& bytes, int sprache) {

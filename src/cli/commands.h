@@ -23,7 +23,10 @@ int LanguageOf(const Arguments& arguments);
 /// Tells on standard error what could not be read, a line each.
 void PrintTroubles(const workspace::Workspace& opened, int sprache);
 
-/// One line for a compile error: `path:line:column: sentence`, with the line of the file.
+/// The sentence of a compile error of the module `origin`, with lines of the file.
+std::string CompileErrorWords(const workspace::ModuleOrigin& origin, const workspace::CompileError& error, int sprache);
+
+/// One line for a compile error: `path:line:column: sentence`, with lines of the file.
 std::string CompileErrorLine(const workspace::OpenedProject& project, const workspace::CompileError& error,
                              int sprache);
 

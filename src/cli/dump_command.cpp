@@ -104,7 +104,7 @@ Json JsonOf(const workspace::OpenedProject& project, const workspace::CompileErr
             {"line", error.error.line},
             {"column", error.error.column},
             {"fileLine", origin.FileLine(error.error.line)},
-            {"error", sprache == kEnglish ? error.error.sentence.english : error.error.sentence.german}};
+            {"error", CompileErrorWords(origin, error, sprache)}};
 }
 
 }  // namespace

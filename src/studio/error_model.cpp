@@ -54,7 +54,7 @@ QVariant ErrorModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const vba::SyntaxError& error = Error(index.row()).error;
     if (role == Qt::DecorationRole && index.column() == 0) return StrokeIcon(QStringLiteral("error"));
-    if (role == Qt::ToolTipRole) return words_.Of(error.sentence);
+    if (role == Qt::ToolTipRole) return words_.Of(error.Words());
     if (role != Qt::DisplayRole) return {};
     switch (index.column()) {
         case 0:
@@ -64,7 +64,7 @@ QVariant ErrorModel::data(const QModelIndex& index, int role) const {
         case 2:
             return error.column;
         default:
-            return words_.Of(error.sentence);
+            return words_.Of(error.Words());
     }
 }
 

@@ -1,4 +1,4 @@
-// Sentences are put together when all faults of a module are known: only then is it worth counting lines.
+// Lines are counted when all faults of a module are known, sentences put together when somebody reads them.
 
 #include "vba/parser_faults.h"
 
@@ -69,24 +69,24 @@ std::string Fill(std::string_view pattern, const std::string& word, const std::s
     return filled;
 }
 
-Sentence SentenceOf(const FoundFault& found, int relatedLine) {
-    const FaultText& texts = TextsOf(found.fault);
-    const std::string word = ToUtf8(found.word);
+}  // namespace
+
+Sentence SyntaxError::Words(int line) const {
+    const FaultText& texts = TextsOf(fault);
+    const std::string quoted = ToUtf8(word);
     if (!texts.isExpectation) {
-        const std::string line = std::to_string(relatedLine);
-        return {Fill(texts.german, word, line), Fill(texts.english, word, line)};
+        const std::string number = std::to_string(line);
+        return {Fill(texts.german, quoted, number), Fill(texts.english, quoted, number)};
     }
     const std::string german(texts.german);
     const std::string english(texts.english);
-    if (word.empty()) {
+    if (quoted.empty()) {
         return {"Die Anweisung endet hier; erwartet wird noch " + german + ".",
                 "The statement ends here; still expected is " + english + "."};
     }
-    return {"Hier wird " + german + " erwartet, nicht „" + word + "“.",
-            "Expected here is " + english + ", not \"" + word + "\"."};
+    return {"Hier wird " + german + " erwartet, nicht „" + quoted + "“.",
+            "Expected here is " + english + ", not \"" + quoted + "\"."};
 }
-
-}  // namespace
 
 bool IsExpectation(Fault fault) {
     return TextsOf(fault).isExpectation;
@@ -99,10 +99,10 @@ std::vector<SyntaxError> Describe(TextView text, FoundFaults faults) {
     LineCounter relatedPlaces(text);
     std::vector<SyntaxError> errors;
     errors.reserve(faults.size());
-    for (const FoundFault& found : faults) {
+    for (FoundFault& found : faults) {
         const int line = places.LineOf(found.offset);
         const int column = places.ColumnOf(found.offset);
-        errors.push_back({line, column, SentenceOf(found, relatedPlaces.LineOf(found.related))});
+        errors.push_back({line, column, found.fault, std::move(found.word), relatedPlaces.LineOf(found.related)});
     }
     return errors;
 }

@@ -33,7 +33,7 @@ struct FoundFault {
 
 using FoundFaults = std::vector<FoundFault>;
 
-/// The faults as sentences with line and column, in the order of the text, not more than `kMaximumSyntaxErrors`.
+/// The faults with line and column, in the order of the text, not more than `kMaximumSyntaxErrors`.
 std::vector<SyntaxError> Describe(TextView text, FoundFaults faults);
 
 }  // namespace zentlor::vba

@@ -4,6 +4,7 @@
 // declarations of one module ([MS-VBAL] 4 and 5). Types, references and other modules are not looked at. Where the
 // language leaves room the answer is yes: code that the editor accepts is never to be refused.
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -18,11 +19,19 @@ struct Sentence {
     std::string english;
 };
 
+enum class Fault : std::uint8_t;  // in parser_faults.h
+
 /// One reason why a module does not compile. Line and column count from 1; the column in UTF-16 code units.
 struct SyntaxError {
     int line = 0;
     int column = 0;
-    Sentence sentence;
+    Fault fault{};
+    Text word;            ///< what the sentence quotes
+    int relatedLine = 0;  ///< the line that the sentence points to, if it does
+
+    Sentence Words() const { return Words(relatedLine); }
+    /// Says `relatedLine` for the line that the sentence points to: where lines bear other numbers than the module's.
+    Sentence Words(int relatedLine) const;
 };
 
 /// No module gives more errors than this; the first ones count.

@@ -67,7 +67,7 @@ TEST_F(Program, StatusTellsHowItWent) {
     const std::string clean = Module("clean.bas",
                                      "Attribute VB_Name = \"Sauber\"\r\nOption Explicit\r\n\r\nPublic Sub Leer(ByVal x "
                                      "As Long)\r\n    On Error GoTo Fehler\r\n    Beep x\r\nFehler:\r\nEnd Sub\r\n");
-    const std::string broken = Module("broken.bas", "Sub X()\r\nIf a Then\r\nEnd Sub\r\n");
+    const std::string broken = Module("broken.bas", "Attribute VB_Name = \"X\"\r\nSub X()\r\nIf a Then\r\nEnd Sub\r\n");
     struct Row {
         const char* why;
         std::string arguments;
@@ -91,6 +91,7 @@ TEST_F(Program, StatusTellsHowItWent) {
         {"a device", "check /dev/null --isolated", 2, "/dev/null"},
         {"compiles", "compile examples/kunden", 0, ""},
         {"compiles not", "compile " + broken, 1, ""},
+        {"all lines are those of the file", "check " + broken + " --isolated", 2, "broken.bas:4:1: „If“ aus Zeile 3 "},
         {"a component whose marker takes it out of the run",
          "check examples/kunden --isolated --component mdl_Pruefziffern", 1, ""},
         {"setting of the editor", "check " + clean + " --isolated --require-declaration 0", 1, ""},

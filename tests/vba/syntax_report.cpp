@@ -10,7 +10,7 @@ std::string Print(const std::vector<vba::SyntaxError>& errors, std::string vba::
     std::string report;
     for (const vba::SyntaxError& error : errors) {
         report += std::to_string(error.line - firstLine + 1) + ":" + std::to_string(error.column) + " ";
-        report += error.sentence.*language + "\n";
+        report += error.Words().*language + "\n";
     }
     return report;
 }
