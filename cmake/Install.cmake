@@ -24,13 +24,18 @@ if(TARGET zentlor-studio)
   install(FILES ${CMAKE_SOURCE_DIR}/data/icons/zentlor.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 endif()
-zentlor_install_compressed(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
-configure_file(${CMAKE_SOURCE_DIR}/data/copyright.in ${CMAKE_BINARY_DIR}/packed/copyright @ONLY)
+
+set(CPACK_PACKAGE_CONTACT "Zentlor developers <zentlor@example.org>")
+string(TIMESTAMP ZENTLOR_PACKAGED_AT "%a, %d %b %Y %H:%M:%S +0000" UTC)
+foreach(file copyright changelog)
+  configure_file(${CMAKE_SOURCE_DIR}/data/${file}.in ${CMAKE_BINARY_DIR}/packed/${file} @ONLY)
+endforeach()
+zentlor_install_compressed(${CMAKE_BINARY_DIR}/packed/changelog changelog ${CMAKE_INSTALL_DOCDIR})
+zentlor_install_compressed(${CMAKE_SOURCE_DIR}/CHANGELOG.md CHANGELOG.md ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${CMAKE_BINARY_DIR}/packed/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zentlor)
-set(CPACK_PACKAGE_CONTACT "Zentlor developers <zentlor@example.org>")
 set(CPACK_PACKAGE_HOMEPAGE_URL ${ZENTLOR_HOME_PAGE})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Checker of VBA code in modules, Office documents and Access databases")
 set(CPACK_PACKAGE_DESCRIPTION

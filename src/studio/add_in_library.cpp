@@ -25,7 +25,7 @@ class AddInLibrary::Component : public PaneDialogs, public EventPump {
         auto object =
             std::make_unique<docAddIn>(session, PaneServices{pane, pane.Sprache(), *this, fileDialogs_, files_,
                                                              environment_.shell, FromQString(environment_.dataFolder)});
-        pane.Connect(object.get(), &session.lvwErgebnis);
+        pane.Connect(object.get(), &session);
         object->UserDocument_Initialize();
         docObj = std::move(object);
         return &pane;
@@ -88,6 +88,10 @@ bool AddInLibrary::Busy() const {
 
 void AddInLibrary::Stop() {
     if (component_) component_->addIn.Stop();
+}
+
+void AddInLibrary::ForgetHints() {
+    if (component_) component_->pane.ForgetHints();
 }
 
 bool AddInLibrary::Running() const {

@@ -31,6 +31,8 @@ class AddInLibrary : public AddinInstance {
     bool Busy() const override;
     void Stop() override;
 
+    /// Empties the pane: its hints are of code that is no longer open. Not in the middle of a run.
+    void ForgetHints();
     /// A run is under way.
     bool Running() const;
     /// nullptr while the add-in is not loaded.

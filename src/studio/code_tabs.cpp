@@ -60,17 +60,24 @@ CodeView* CodeTabs::CurrentView() const {
     return static_cast<CodeView*>(currentWidget());
 }
 
+const VBComponent* CodeTabs::CurrentComponent() const {
+    for (const Pane& pane : panes_) {
+        if (pane.view == currentWidget()) return FindComponent(pane);
+    }
+    return nullptr;
+}
+
 CodeView& CodeTabs::Show(const VBComponent& component) {
     const auto isShown = [&](const Pane& pane) {
         return pane.project == component.Project().Name() && pane.component == component.Name();
     };
-    auto found = std::find_if(panes_.begin(), panes_.end(), isShown);
-    if (found == panes_.end()) found = panes_.insert(panes_.end(), Create(component));
-    setCurrentWidget(found->view);
-    return *found->view;
+    const auto found = std::find_if(panes_.begin(), panes_.end(), isShown);
+    CodeView* view = found == panes_.end() ? Create(component) : found->view;
+    setCurrentWidget(view);
+    return *view;
 }
 
-CodeTabs::Pane CodeTabs::Create(const VBComponent& component) {
+CodeView* CodeTabs::Create(const VBComponent& component) {
     const Pane pane{new CodeView, component.Project().Name(), component.Name()};
     pane.view->zoomIn(zoom_);
     pane.view->SetCode(component.CodeModule().AllText());
@@ -81,8 +88,9 @@ CodeTabs::Pane CodeTabs::Create(const VBComponent& component) {
     });
     connect(pane.view, &QPlainTextEdit::cursorPositionChanged, this, &CodeTabs::CaretMoved);
     Mark(pane);
+    panes_.push_back(pane);
     addTab(pane.view, ComponentIcon(component.Type()), ToQString(component.Name()));
-    return pane;
+    return pane.view;
 }
 
 void CodeTabs::Close(int index) {

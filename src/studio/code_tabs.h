@@ -22,6 +22,8 @@ class CodeTabs : public QTabWidget {
     CodeView& Show(const VBComponent& component);
     /// nullptr while no module is shown.
     CodeView* CurrentView() const;
+    /// The component that it shows, or nullptr.
+    const VBComponent* CurrentComponent() const;
     void CloseCurrent() { Close(currentIndex()); }
     /// Marks the lines of `hints`, which were found in `project`; nullptr takes all marks away.
     void SetHints(const ResultList* hints, const VBProject* project);
@@ -39,7 +41,7 @@ class CodeTabs : public QTabWidget {
         Text project;
         Text component;
     };
-    Pane Create(const VBComponent& component);
+    CodeView* Create(const VBComponent& component);
     void Close(int index);
     void FollowProjects();
     void Mark(const Pane& pane) const;

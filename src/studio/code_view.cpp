@@ -166,12 +166,14 @@ void CodeView::PaintMargin(const QRect& rect) {
         const double height = blockBoundingRect(block).height();
         number.setAlpha(line == CurrentLine() ? 220 : 110);
         painter.setPen(number);
-        painter.drawText(QRectF(0, top, margin_->width() - 6, height), Qt::AlignRight | Qt::AlignVCenter,
+        // The last block is higher than its line.
+        const double lineHeight = block.layout()->lineAt(0).height();
+        painter.drawText(QRectF(0, top, margin_->width() - 6, lineHeight), Qt::AlignRight | Qt::AlignVCenter,
                          QString::number(line));
         if (marks_.contains(line)) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(QColor(0xE0, 0x8A, 0x00));
-            painter.drawEllipse(QPointF(kMarkRoom / 2.0 + 1, top + height / 2), 3.6, 3.6);
+            painter.drawEllipse(QPointF(kMarkRoom / 2.0 + 1, top + lineHeight / 2), 3.6, 3.6);
         }
         top += height;
         block = block.next();

@@ -25,7 +25,6 @@ int RunStudio(QApplication& application) {
     QElapsedTimer sinceStart;
     sinceStart.start();
     QApplication::setApplicationName(QStringLiteral("zentlor-studio"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Zentlor"));
     QApplication::setApplicationVersion(QStringLiteral(ZENTLOR_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("zentlor-studio"));
 

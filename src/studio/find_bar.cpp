@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QTextBlock>
 
 #include "studio/icons.h"
 
@@ -69,8 +70,10 @@ void FindBar::Retranslate() {
 
 void FindBar::Open() {
     const QString selected = view_ == nullptr ? QString() : view_->textCursor().selectedText();
+    // A whole line is what a jump to a hint selects, not what somebody looks for.
+    const bool wholeLine = view_ != nullptr && selected == view_->textCursor().block().text();
     const bool oneLine = !selected.isEmpty() && selected.size() < 100 && !selected.contains(QChar::ParagraphSeparator);
-    if (oneLine) text_->setText(selected.trimmed());
+    if (oneLine && !wholeLine) text_->setText(selected.trimmed());
     show();
     text_->setFocus();
     text_->selectAll();

@@ -40,15 +40,18 @@ std::vector<HelpPage> ReadHelp(const QString& folder) {
     QTextDocument document;
     document.setHtml(first);
     const QString title = document.metaInformation(QTextDocument::DocumentTitle);
-    pages.push_back({kFirstPage, title, document.toPlainText()});
+    pages.push_back({kFirstPage, title, QString(), document.toPlainText()});
     QSet<QString> known{kFirstPage};
-    static const QRegularExpression kLink(QStringLiteral("<a href=\"([^\":#/]+\\.html)[^\"]*\"[^>]*>(.*?)</a>"),
-                                          QRegularExpression::DotMatchesEverythingOption);
-    for (const QRegularExpressionMatch& link : kLink.globalMatch(first)) {
-        const QString file = link.captured(1);
-        if (known.contains(file)) continue;
+    QString group;
+    static const QRegularExpression kPart(
+        QStringLiteral("<h2>(?<heading>.*?)</h2>|<a href=\"(?<file>[^\":#/]+\\.html)[^\"]*\"[^>]*>(?<title>.*?)</a>"),
+        QRegularExpression::DotMatchesEverythingOption);
+    for (const QRegularExpressionMatch& part : kPart.globalMatch(first)) {
+        if (part.hasCaptured(u"heading")) group = PlainText(part.captured(u"heading"));
+        const QString file = part.captured(u"file");
+        if (file.isEmpty() || known.contains(file)) continue;
         known << file;
-        pages.push_back({file, PlainText(link.captured(2)), PlainText(ReadPage(folder + u'/' + file))});
+        pages.push_back({file, PlainText(part.captured(u"title")), group, PlainText(ReadPage(folder + u'/' + file))});
     }
     return pages;
 }
@@ -85,6 +88,7 @@ HelpWindow::HelpWindow(const Words& words, QWidget* parent)
         const bool outside = url.scheme() == QStringLiteral("http") || url.scheme() == QStringLiteral("https");
         outside ? static_cast<void>(QDesktopServices::openUrl(url)) : browser_->setSource(url);
     });
+    connect(browser_, &QTextBrowser::sourceChanged, this, &HelpWindow::FollowPage);
     connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { Search(text); });
     Retranslate();
 }
@@ -129,6 +133,9 @@ void HelpWindow::Retranslate() {
     back_->setText(words_(Word::HelpBack));
     forward_->setText(words_(Word::HelpForward));
     home_->setText(words_(Word::HelpHome));
+    FillContents();
+    Search(search_->text());
+    FollowPage(browser_->source());
 }
 
 void HelpWindow::ShowHelp(const QString& folder) {
@@ -146,17 +153,47 @@ void HelpWindow::ShowHelp(const QString& folder) {
 void HelpWindow::Load(const QString& folder) {
     folder_ = folder;
     pages_ = ReadHelp(folder);
+    FillContents();
+}
+
+// The pages below the headings of the first page.
+void HelpWindow::FillContents() {
     contents_->clear();
+    QString group;
     for (const HelpPage& page : pages_) {
+        if (page.group != group) {
+            auto* heading = new QListWidgetItem(InLanguage(page.group), contents_);
+            QFont bold = contents_->font();
+            bold.setBold(true);
+            heading->setFont(bold);
+            heading->setFlags(Qt::ItemIsEnabled);
+            group = page.group;
+        }
         AddItem(*contents_, page);
     }
 }
 
 // A title that is too long is cut, and told in full by its tool tip.
 void HelpWindow::AddItem(QListWidget& list, const HelpPage& page) {
-    auto* item = new QListWidgetItem(page.file == kFirstPage ? words_(Word::HelpHome) : page.title, &list);
+    auto* item = new QListWidgetItem(page.file == kFirstPage ? words_(Word::HelpHome) : InLanguage(page.title), &list);
     item->setData(Qt::UserRole, page.file);
-    item->setToolTip(page.title);
+    item->setToolTip(item->text());
+}
+
+// Titles say everything twice, in German and in English.
+QString HelpWindow::InLanguage(const QString& title) const {
+    const QStringList halves = title.split(QStringLiteral(" · "));
+    return halves.size() == 2 ? halves[words_.English() ? 1 : 0] : title;
+}
+
+// A page that was reached by a link is marked in the contents too.
+void HelpWindow::FollowPage(const QUrl& page) {
+    for (int row = 0; row < contents_->count(); ++row) {
+        const QVariant file = contents_->item(row)->data(Qt::UserRole);
+        if (file.isNull() || file.toString() != page.fileName()) continue;
+        const QSignalBlocker noJump(contents_);
+        contents_->setCurrentRow(row);
+    }
 }
 
 void HelpWindow::Search(const QString& words) {

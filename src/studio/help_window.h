@@ -17,6 +17,7 @@ namespace zentlor::studio {
 struct HelpPage {
     QString file;   ///< without its folder
     QString title;  ///< as the first page links to it
+    QString group;  ///< the heading above that link
     QString text;   ///< without markup
 };
 
@@ -41,7 +42,10 @@ class HelpWindow : public QMainWindow {
     void CreateToolBar();
     QListWidget* CreateList();
     void Load(const QString& folder);
+    void FillContents();
     void AddItem(QListWidget& list, const HelpPage& page);
+    void FollowPage(const QUrl& page);
+    QString InLanguage(const QString& title) const;
 
     const Words& words_;
     QString folder_;

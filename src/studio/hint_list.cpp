@@ -82,8 +82,12 @@ void HintList::copy() const {
 
 void HintList::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const int column = event->key() - Qt::Key_0;
+    const bool sorts = event->modifiers() == Qt::ControlModifier && column >= 1 && column <= kVisibleColumns;
     if (event->matches(QKeySequence::Copy)) {
         copy();
+    } else if (sorts) {
+        Q_EMIT SortWanted(column);
     } else if (enter) {
         if (SelectedRow() >= 0) Q_EMIT JumpWanted(SelectedRow());
     } else {

@@ -29,7 +29,7 @@ class HintList : public QTreeView {
   Q_SIGNALS:
     /// A double click or Enter. `row` counts from 0; -1 without a selected row.
     void JumpWanted(int row);
-    /// A click on a header; `column` counts from 1.
+    /// A click on a header, or Ctrl and the column's number; `column` counts from 1.
     void SortWanted(int column);
 
   protected:

@@ -75,6 +75,7 @@ QVariant HintModel::data(const QModelIndex& index, int role) const {
 QVariant HintModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || section < 0 || section >= kHintColumns) return {};
     if (role == Qt::DisplayRole) return headers_[static_cast<std::size_t>(section)];
+    if (role == Qt::ToolTipRole) return sortTip_.arg(section + 1);
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::AlignVCenter | (section >= kLineColumn ? Qt::AlignRight : Qt::AlignLeft));
     }

@@ -23,6 +23,8 @@ class HintModel : public QAbstractTableModel {
     void Publish();
     /// `column` counts from 0.
     void SetHeader(int column, const QString& text);
+    /// The tool tip of the headers; %1 stands for the column, counted from 1.
+    void SetSortTip(const QString& text) { sortTip_ = text; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -35,6 +37,7 @@ class HintModel : public QAbstractTableModel {
     const ResultList* results_ = nullptr;
     std::vector<std::size_t> shown_;  ///< for each row of the view its hint in order of emission
     std::array<QString, kHintColumns> headers_;
+    QString sortTip_;
 };
 
 }  // namespace zentlor::studio

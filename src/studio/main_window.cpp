@@ -178,6 +178,9 @@ void MainWindow::FollowView() {
     for (QAction* action : {menus_.find, menus_.findNext, menus_.findPrevious, menus_.goToLine, menus_.closeTab}) {
         action->setEnabled(view != nullptr);
     }
+    // The project window follows the code pane, as the editor's does.
+    const VBComponent* component = tabs_->CurrentComponent();
+    if (component != nullptr && component != SelectedComponent()) SelectComponent(*component);
     ShowPosition();
 }
 

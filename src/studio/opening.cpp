@@ -32,7 +32,7 @@ Opening::Opening(MainWindow& window, OpenProjects& projects, StudioSettings& set
 // False if a run is under way that the user wants to keep.
 bool Opening::StopsRun(Word question) {
     if (!addIn_.Running()) return true;
-    const auto answer = QMessageBox::question(&window_, QApplication::applicationDisplayName(), words_(question));
+    const auto answer = QMessageBox::question(&window_, kDefaultTitle, words_(question));
     if (answer != QMessageBox::Yes) return false;
     addIn_.Stop();
     return true;
@@ -67,6 +67,7 @@ void Opening::Close() {
         paths_.clear();
         watch_.Watch({}, {}, {});
         projects_.Close();
+        addIn_.ForgetHints();
     });
 }
 
@@ -87,8 +88,11 @@ void Opening::Finish() {
 }
 
 void Opening::Install(workspace::Workspace&& result) {
+    // The hints of code that was only changed are what its author works off.
+    const bool isOther = paths_ != loading_;
     paths_ = loading_;
     projects_.Take(std::move(result), reading_);
+    if (isOther) addIn_.ForgetHints();
     watch_.Watch(paths_, projects_.All(), readAt_);
     if (paths_.size() == 1) settings_.AddRecentPath(paths_.front());
     window_.ShowRecent(settings_.RecentPaths());

@@ -115,10 +115,14 @@ void PaneWidget::ConnectClicks() {
     });
 }
 
-void PaneWidget::Connect(docAddIn* pane, const ResultList* results) {
+void PaneWidget::Connect(docAddIn* pane, const Session* session) {
     pane_ = pane;
-    results_ = results;
-    list_->Hints().SetResults(results);
+    session_ = session;
+    list_->Hints().SetResults(session == nullptr ? nullptr : &session->lvwErgebnis);
+}
+
+void PaneWidget::ForgetHints() {
+    if (pane_ != nullptr) pane_->OberflächeZurücksetzen();
 }
 
 void PaneWidget::Retranslate() {
@@ -126,7 +130,8 @@ void PaneWidget::Retranslate() {
     sprache_->setAccessibleName(words_(Word::InterfaceLanguage));
     sprache_->setToolTip(words_(Word::InterfaceLanguage));
     list_->setAccessibleName(words_(Word::HintList));
-    list_->SetEmptyText(words_(Word::NoHints));
+    list_->Hints().SetSortTip(words_(Word::SortTip));
+    SayWhyEmpty(empty_);
     progress_->setAccessibleName(words_(Word::Progress));
     panels_[0]->setAccessibleName(words_(Word::StatusHints));
     panels_[1]->setAccessibleName(words_(Word::StatusDuration));
@@ -142,8 +147,15 @@ void PaneWidget::ShowLabels(bool visible) {
     for (QLabel* label : {untersuchtesObjekt_, objekt_, aktuellerTest_, test_}) label->setVisible(visible);
 }
 
+// The last that a run does with the list: one without rows is now a result, which it was not before.
 void PaneWidget::FocusList() {
+    SayWhyEmpty(session_->blnAbbruch ? Word::Stopped : Word::NoHints);
     list_->setFocus();
+}
+
+void PaneWidget::SayWhyEmpty(Word word) {
+    empty_ = word;
+    list_->SetEmptyText(words_(word));
 }
 
 void PaneWidget::ListChanged() {
@@ -151,12 +163,13 @@ void PaneWidget::ListChanged() {
 }
 
 void PaneWidget::ShowNewRows() {
-    if (!list_->isHidden() && list_->Hints().rowCount() != static_cast<int>(results_->Count())) PublishRows();
+    const auto rows = static_cast<std::size_t>(list_->Hints().rowCount());
+    if (!list_->isHidden() && rows != session_->lvwErgebnis.Count()) PublishRows();
 }
 
 void PaneWidget::PublishRows() {
     list_->Hints().Publish();
-    if (results_ != nullptr) list_->ShowSorting(results_->SortKey(), results_->Ascending());
+    if (session_ != nullptr) list_->ShowSorting(session_->lvwErgebnis.SortKey(), session_->lvwErgebnis.Ascending());
     Q_EMIT RowsPublished();
 }
 
@@ -168,7 +181,9 @@ void PaneWidget::SetTest(TextView text) {
     test_->setText(ToQString(text));
 }
 
+// The bar comes back when the pane is emptied.
 void PaneWidget::ShowProgress(bool visible) {
+    if (visible) SayWhyEmpty(Word::NotChecked);
     progress_->setVisible(visible);
 }
 

@@ -24,8 +24,10 @@ class PaneWidget : public QWidget, public PaneView, public PaneTexts {
   public:
     explicit PaneWidget(const Words& words);
 
-    /// The object that the clicks go to, and the list that the rows come from; nullptr for both: clicks go nowhere.
-    void Connect(docAddIn* pane, const ResultList* results);
+    /// The object that the clicks go to, and the session whose hints are shown; nullptr for both: clicks go nowhere.
+    void Connect(docAddIn* pane, const Session* session);
+    /// Empties the list, whose hints are of code that is no longer open. Not in the middle of a run.
+    void ForgetHints();
     LanguageBox& Sprache() { return *sprache_; }
     HintList& List() { return *list_; }
     /// The button at a position of the toolbar, counted from 1 with the separators; nullptr for a separator.
@@ -80,10 +82,12 @@ class PaneWidget : public QWidget, public PaneView, public PaneTexts {
     void LayOutToolbar(const Twips& twips);
     void LayOutStatus(const Twips& twips);
     void PublishRows();
+    void SayWhyEmpty(Word word);
 
     const Words& words_;
     docAddIn* pane_ = nullptr;
-    const ResultList* results_ = nullptr;
+    const Session* session_ = nullptr;
+    Word empty_ = Word::NotChecked;  ///< what a list without rows says
 
     QWidget* toolbar_;
     std::array<QToolButton*, 9> buttons_{};

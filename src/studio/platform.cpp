@@ -40,7 +40,7 @@ std::int64_t QtClock::Now() {
 }
 
 void QtMessageBoxes::Show(TextView text, BoxIcon icon, TextView title) {
-    const QString caption = title.empty() ? QApplication::applicationDisplayName() : ToQString(title);
+    const QString caption = title.empty() ? kDefaultTitle : ToQString(title);
     QString plain = ToQString(text);
     plain.remove(u'\r');
     QMessageBox box(IconOf(icon), caption, plain, QMessageBox::Ok, QApplication::activeWindow());

@@ -28,6 +28,10 @@ class QtClock : public Clock {
     std::int64_t Now() override;
 };
 
+/// The title of message boxes that have none of their own. It is not the application's display name, which the toolkit
+/// would write behind the title of every window.
+inline const QString kDefaultTitle = QStringLiteral("Zentlor");
+
 class QtMessageBoxes : public MessageBoxes {
   public:
     void Show(TextView text, BoxIcon icon, TextView title) override;

@@ -173,6 +173,15 @@ TEST(Pane, KeepsTheRunFromASecondOne) {
     }
 }
 
+TEST(Pane, RefreshWithNothingOpenIsNoFailure) {
+    PaneFixture f;
+    f.host.project.reset();
+    f.session.udtOptionen.AllgSprache = kEnglish;
+    f.pane->symToolbar_ButtonClick(u"Refresh");
+    EXPECT_TRUE(f.host.trace.starts_with("box exclamation [Zentlor] No project is open.|")) << f.host.trace;
+    EXPECT_EQ(f.host.trace.find("list"), std::string::npos) << "the pane stays as it was";
+}
+
 TEST(Pane, ComponentRunNeedsAComponent) {
     PaneFixture f;
     f.session.udtOptionen = OptionRecord::AllOn();

@@ -52,6 +52,21 @@ TEST_F(OpeningTest, WhatCannotBeOpenedLeavesTheProjectAsItWas) {
     EXPECT_EQ(studio_->Settings().RecentPaths().size(), 1) << "what did not open is no recent path";
 }
 
+TEST_F(OpeningTest, HintsGoWithTheCodeThatIsNoLongerOpen) {
+    ASSERT_TRUE(OpenExample());
+    Click(kRefresh);
+    const std::size_t hints = Hints().Count();
+    ASSERT_TRUE(OpenExample());
+    EXPECT_EQ(Hints().Count(), hints) << "the same code, read again";
+    WriteModule(QStringLiteral("Modul1.bas"), "Sub A()\r\nEnd Sub\r\n");
+    ASSERT_TRUE(Open(folder_.path()));
+    EXPECT_EQ(Pane().List().model()->rowCount(), 0) << "other code";
+    Click(kRefresh);
+    ASSERT_GT(Pane().List().model()->rowCount(), 0);
+    Entries().closeProject->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Pane().List().model()->rowCount() == 0; })) << "no code";
+}
+
 TEST_F(OpeningTest, AChangeOnDiskIsReadAgain) {
     const QString file = WriteModule(QStringLiteral("Modul1.bas"), "' alt\r\nSub A()\r\nEnd Sub\r\n");
     ASSERT_TRUE(Open(folder_.path()));

@@ -80,11 +80,18 @@ std::string BackLink() {
     return "<p>" + Link("index.html", "Inhalt · Contents") + "</p>\n";
 }
 
-// The check's label and its place in the dialog stand on two lines of the page, and apart in the help.
+void Replace(std::string& text, std::string_view what, std::string_view with) {
+    const auto at = text.find(what);
+    if (at != std::string::npos) text.replace(at, what.size(), with);
+}
+
+// What the page says in English alone the help says in both languages. The check's label and its place in the dialog,
+// which stand on two lines of the page, stand apart.
 std::string CheckBody(const CheckPage& page) {
     std::string markdown = page.markdown;
-    const auto group = markdown.find("\nGroup: ");
-    if (group != std::string::npos) markdown.insert(group, "\n");
+    Replace(markdown, "\nGroup: ", "\n\nGroup: ");
+    Replace(markdown, "\n## Wrong\n", "\n## Falsch · Wrong\n");
+    Replace(markdown, "\n## Right\n", "\n## Richtig · Right\n");
     return BackLink() + HtmlOf(markdown, PageOf);
 }
 

@@ -31,11 +31,16 @@ constexpr std::array kLanguages = {Language{u"Deutsch", u"Deutsch"}, Language{u"
 constexpr TextView kEnglishNotice = u"There may be some translation bugs. Please let me know if you find one. Thanks!";
 constexpr TextView kNoSuchLanguage = u"Nicht verfügbar!";
 
-// Of the system's own words, not of the catalogue: a second start has no message there.
-constexpr TextView kRunningTitle = u"Zentlor";
+// Words of our own: neither a second start nor a start with nothing to check has a message in the catalogue.
+constexpr TextView kOwnTitle = u"Zentlor";
 constexpr TextView kRunningGerman =
     u"Es läuft bereits eine Prüfung.\r\n\r\nWarten Sie ihr Ende ab, oder klicken Sie auf \"Stop\".";
 constexpr TextView kRunningEnglish = u"A run is under way already.\r\n\r\nWait until it has ended, or click \"Stop\".";
+
+constexpr TextView kNothingOpenGerman =
+    u"Es ist kein Projekt geöffnet.\r\n\r\nÖffnen Sie zuerst einen Ordner oder eine Datei mit VBA-Code.";
+constexpr TextView kNothingOpenEnglish =
+    u"No project is open.\r\n\r\nPlease open a folder or a file with VBA code first.";
 
 struct ButtonWords {
     int button;
@@ -97,7 +102,7 @@ void docAddIn::symToolbar_ButtonClick(TextView key) {
 
 void docAddIn::Execute(TextView key) {
     if (key == u"Refresh") {
-        if (!RefusedWhileRunning()) AlleModulePrüfen(session_);
+        if (!RefusedWhileRunning() && !RefusedWithoutProject()) AlleModulePrüfen(session_);
     } else if (key == u"Stop") {
         StopClicked(session_);
     } else if (key == u"Export") {
@@ -169,7 +174,14 @@ void docAddIn::ExportErgebnisse() {
 bool docAddIn::RefusedWhileRunning() {
     if (!session_.running) return false;
     const bool english = session_.udtOptionen.AllgSprache == kEnglish;
-    session_.host().boxes.Show(english ? kRunningEnglish : kRunningGerman, BoxIcon::Exclamation, kRunningTitle);
+    session_.host().boxes.Show(english ? kRunningEnglish : kRunningGerman, BoxIcon::Exclamation, kOwnTitle);
+    return true;
+}
+
+bool docAddIn::RefusedWithoutProject() {
+    if (session_.host().editor.ActiveVBProject() != nullptr) return false;
+    const bool english = session_.udtOptionen.AllgSprache == kEnglish;
+    session_.host().boxes.Show(english ? kNothingOpenEnglish : kNothingOpenGerman, BoxIcon::Exclamation, kOwnTitle);
     return true;
 }
 

@@ -15,7 +15,7 @@ namespace zentlor {
 /// pane: the option record stays as long as the component is loaded.
 ///
 /// While a run is under way it is the only one: another start is refused with a box, and showing the pane from a menu
-/// leaves the list as it is. Every other click is served.
+/// leaves the list as it is. Every other click is served. A start with no project open is refused with a box too.
 class docAddIn : public PaneObject {
   public:
     docAddIn(Session& session, PaneServices services);
@@ -50,6 +50,8 @@ class docAddIn : public PaneObject {
     void Execute(TextView key);
     /// Whether a run is under way; if so the user is told.
     bool RefusedWhileRunning();
+    /// Whether no project is open; if so the user is told.
+    bool RefusedWithoutProject();
 
     Session& session_;
     PaneServices services_;
