@@ -16,6 +16,7 @@ namespace {
 // Keys come separated by commas; one that nobody knows is answered with the nearest known one.
 std::vector<CheckId> ParseKeys(const std::vector<std::string>& keys, const char* option) {
     std::vector<std::string> known;
+    known.reserve(std::size(kCatalogue));
     for (const CheckInfo& check : kCatalogue) known.push_back(ToUtf8(check.key));
     std::vector<CheckId> result;
     for (const std::string& key : keys) {

@@ -4,24 +4,24 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <cstdint>
+#include <cstddef>
 #include <cstdlib>
+#include <memory>
 
 namespace zentlor::cli {
 
 void PrepareHeap() {
     constexpr int kReserve = 256 << 20;
     constexpr int kNever = 1 << 30;
-    constexpr std::uintptr_t kLargePage = 2 << 20;
+    constexpr std::size_t kLargePage = 2 << 20;
     mallopt(M_MMAP_THRESHOLD, kNever);
     mallopt(M_TRIM_THRESHOLD, kNever);
     mallopt(M_TOP_PAD, kReserve);
-    const auto begin = reinterpret_cast<std::uintptr_t>(sbrk(0));
+    void* begin = sbrk(0);
     void* volatile grown = std::malloc(kLargePage);  // volatile: a piece that nobody uses may be left out
     std::free(grown);
-    const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0));
-    const std::uintptr_t aligned = (begin + kLargePage - 1) & ~(kLargePage - 1);
-    if (aligned < end) madvise(reinterpret_cast<void*>(aligned), end - aligned, MADV_HUGEPAGE);
+    std::size_t size = static_cast<std::size_t>(static_cast<char*>(sbrk(0)) - static_cast<char*>(begin));
+    if (std::align(kLargePage, kLargePage, begin, size) != nullptr) madvise(begin, size, MADV_HUGEPAGE);
 }
 
 }  // namespace zentlor::cli

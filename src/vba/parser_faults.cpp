@@ -71,11 +71,11 @@ std::string Fill(std::string_view pattern, const std::string& word, const std::s
 
 }  // namespace
 
-Sentence SyntaxError::Words(int line) const {
+Sentence SyntaxError::Words(int related) const {
     const FaultText& texts = TextsOf(fault);
     const std::string quoted = ToUtf8(word);
     if (!texts.isExpectation) {
-        const std::string number = std::to_string(line);
+        const std::string number = std::to_string(related);
         return {Fill(texts.german, quoted, number), Fill(texts.english, quoted, number)};
     }
     const std::string german(texts.german);

@@ -30,8 +30,8 @@ struct SyntaxError {
     int relatedLine = 0;  ///< the line that the sentence points to, if it does
 
     Sentence Words() const { return Words(relatedLine); }
-    /// Says `relatedLine` for the line that the sentence points to: where lines bear other numbers than the module's.
-    Sentence Words(int relatedLine) const;
+    /// Says `related` for the line that the sentence points to: where lines bear other numbers than the module's.
+    Sentence Words(int related) const;
 };
 
 /// No module gives more errors than this; the first ones count.
