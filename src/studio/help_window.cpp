@@ -17,8 +17,8 @@ namespace zentlor::studio {
 namespace {
 
 const QString kFirstPage = QStringLiteral("index.html");
-constexpr QSize kFirstSize(940, 660);
-constexpr int kListWidth = 270;
+constexpr QSize kFirstSize(1000, 660);
+constexpr int kListWidth = 330;
 
 QString ReadPage(const QString& path) {
     QFile file(path);
@@ -148,6 +148,7 @@ void HelpWindow::ShowHelp(const QString& folder) {
     show();
     raise();
     activateWindow();
+    contents_->setFocus();
 }
 
 void HelpWindow::Load(const QString& folder) {

@@ -55,8 +55,7 @@ QDockWidget* MainWindow::AddDock(const QString& name, Qt::DockWidgetArea area, Q
     dock->setObjectName(name);
     dock->setWidget(widget);
     addDockWidget(area, dock);
-    QAction* toggle = dock->toggleViewAction();
-    menus_.view->insertAction(menus_.zoomIn, toggle);
+    menus_.view->insertAction(menus_.toolWindows, dock->toggleViewAction());
     return dock;
 }
 
@@ -152,6 +151,9 @@ void MainWindow::Retranslate() {
     if (selected != nullptr) SelectComponent(*selected);
     treeDock_->setWindowTitle(words_(Word::ProjectWindow).remove(u'&'));
     errorDock_->setWindowTitle(words_(Word::ErrorWindow).remove(u'&'));
+    // A title knows no access key, its entry in the menu does.
+    treeDock_->toggleViewAction()->setText(words_(Word::ProjectWindow));
+    errorDock_->toggleViewAction()->setText(words_(Word::ErrorWindow));
     tree_->setAccessibleName(treeDock_->windowTitle());
     errors_->setAccessibleName(errorDock_->windowTitle());
     chooseModule_->setText(words_(Word::WelcomeProject));
@@ -248,6 +250,8 @@ QDockWidget* MainWindow::AddToolWindow(const QString& guid, const QString& capti
     auto* dock = new QDockWidget(caption, this);
     dock->setObjectName(guid);
     dock->setWidget(widget);
+    dock->toggleViewAction()->setText(u'&' + caption);
+    menus_.view->insertAction(menus_.toolWindows, dock->toggleViewAction());
     if (!restoreDockWidget(dock)) {
         addDockWidget(Qt::BottomDockWidgetArea, dock);
         tabifyDockWidget(errorDock_, dock);

@@ -62,6 +62,7 @@ void Menus::FillEdit() {
 }
 
 void Menus::FillView() {
+    toolWindows = view->addSeparator();
     zoomIn = AddEntry(view, Word::ZoomIn, nullptr, QKeySequence::ZoomIn);
     zoomOut = AddEntry(view, Word::ZoomOut, nullptr, QKeySequence::ZoomOut);
     zoomReset = AddEntry(view, Word::ZoomReset, nullptr, Qt::CTRL | Qt::Key_0);

@@ -26,6 +26,7 @@ class Menus {
     QMenu *recent, *codeWindow, *projectWindow;
     QAction *openFile, *openFolder, *clearRecent, *reload, *closeProject, *quit;
     QAction *copy, *selectAll, *find, *findNext, *findPrevious, *goToLine;
+    QAction* toolWindows;  ///< the separator behind the entries of the tool windows
     QAction *zoomIn, *zoomOut, *zoomReset, *closeTab;
     QAction *compile, *addInManager;
     QAction *references, *properties, *options;

@@ -14,8 +14,8 @@ namespace {
 
 constexpr int kMostSentences = 8;
 constexpr const char* kPatterns =
-    "*.bas *.cls *.frm *.accdb *.accde *.mdb *.mde *.xls *.xlsm *.xlsb *.xla *.xlam *.xlt *.xltm *.doc *.docm *.dot "
-    "*.dotm *.ppt *.pptm *.pot *.potm *.ppa *.ppam";
+    "*.bas *.cls *.frm *.form *.report *.txt *.accdb *.accda *.accde *.mdb *.mda *.mde *.adp *.xls *.xlsm *.xlsb *.xla "
+    "*.xlam *.xlt *.xltm *.doc *.docm *.dot *.dotm *.ppt *.pptm *.pot *.potm *.pps *.ppsm *.ppa *.ppam *.vsdm *.bin";
 
 }  // namespace
 
@@ -48,7 +48,8 @@ void Opening::Open(const QStringList& paths) {
 void Opening::ChooseFile() {
     const QString filter = QStringLiteral("%1 (%2);;%3 (*)")
                                .arg(words_(Word::FilterCode), QString::fromLatin1(kPatterns), words_(Word::FilterAll));
-    const QStringList files = QFileDialog::getOpenFileNames(&window_, words_(Word::OpenFileTitle), QString(), filter);
+    const QStringList files = QFileDialog::getOpenFileNames(&window_, words_(Word::OpenFileTitle), QString(), filter,
+                                                            nullptr, QFileDialog::HideNameFilterDetails);
     if (!files.isEmpty()) Open(files);
 }
 
@@ -82,6 +83,7 @@ void Opening::Begin(const QStringList& paths, Reading reading) {
 void Opening::Finish() {
     workspace::Workspace result = loader_.Take();
     const bool nothing = result.projects.empty();
+    window_.ShowNotice(QString());
     TellFaults(result);
     if (!nothing) Install(std::move(result));
     Q_EMIT Done();

@@ -67,6 +67,12 @@ void Studio::Start(const QStringList& paths) {
     }
     window_.ShowRecent(settings_.RecentPaths());
     window_.show();
+    // What floats was there before the window, and would stand behind it.
+    for (QDockWidget* dock : window_.ToolWindows()) {
+        if (!dock->isFloating() || !dock->isVisible()) continue;
+        dock->hide();
+        dock->show();
+    }
     TellSettingsProblem();
     if (!paths.isEmpty()) opening_.Open(paths);
 }
