@@ -18,10 +18,8 @@ namespace {
 
 constexpr TextView kDirectoryStream = u"\u0003DirData";
 constexpr std::uint64_t kDirectoryMaximum = 4 << 20;
-constexpr std::uint64_t kTypeInfoMaximum = 4 << 20;
-/// More forms and reports than a database can have, and more than their lists come to.
+/// More forms and reports than a database can have.
 constexpr std::size_t kMostLayouts = 32768;
-constexpr std::uint64_t kMostTypeInfo = 16 << 20;
 constexpr std::uint8_t kDirectoryRecord = 4;
 constexpr std::uint64_t kTypeInfoCountAt = 0x0C;
 constexpr std::uint64_t kTypeInfoListAt = 0x20;
@@ -59,20 +57,22 @@ std::optional<std::string_view> TakeName(std::string_view bytes, std::uint64_t& 
 
 class LayoutReader {
   public:
-    LayoutReader(const Storage& root, int codePage) : root_(root), codePage_(codePage) {}
+    LayoutReader(const Storage& root, int codePage, std::uint64_t fileBytes)
+        : root_(root), codePage_(codePage), bytesLeft_(fileBytes) {}
 
     void Read(TextView folder, bool report) {
         const auto storage = root_.OpenStorage(folder);
         const auto directory = storage ? storage->ReadStream(kDirectoryStream, kDirectoryMaximum) : std::nullopt;
         if (!directory) return;
         for (DirectoryEntry& entry : ParseDirectory(*directory)) {
-            if (layouts_.size() >= kMostLayouts || bytes_ > kMostTypeInfo) {
+            const auto object = storage->OpenStorage(ToText(entry.number));
+            const auto typeInfo = object ? object->ReadStream(u"TypeInfo", bytesLeft_ + 1) : std::nullopt;
+            const std::uint64_t bytes = typeInfo ? typeInfo->size() : 0;
+            if (layouts_.size() >= kMostLayouts || bytes > bytesLeft_) {
                 incomplete_ = true;
                 return;
             }
-            const auto object = storage->OpenStorage(ToText(entry.number));
-            const auto typeInfo = object ? object->ReadStream(u"TypeInfo", kTypeInfoMaximum) : std::nullopt;
-            bytes_ += typeInfo ? typeInfo->size() : 0;
+            bytesLeft_ -= bytes;
             layouts_.push_back({std::move(entry.name), report, ParseTypeInfo(typeInfo.value_or(""), codePage_)});
         }
     }
@@ -85,7 +85,7 @@ class LayoutReader {
     int codePage_;
     std::vector<FormLayout> layouts_;
     /// Many forms may share one list, and then cost more than the file has bytes.
-    std::uint64_t bytes_ = 0;
+    std::uint64_t bytesLeft_;
     bool incomplete_ = false;
 };
 
@@ -108,8 +108,8 @@ std::vector<FormControl> ParseTypeInfo(std::string_view bytes, int codePage) {
     return controls;
 }
 
-void AddFormLayouts(const Storage& root, int codePage, Document& document) {
-    LayoutReader reader(root, codePage);
+void AddFormLayouts(const Storage& root, int codePage, std::uint64_t fileBytes, Document& document) {
+    LayoutReader reader(root, codePage, fileBytes);
     reader.Read(u"Forms", false);
     reader.Read(u"Reports", true);
     document.layouts = reader.Take();

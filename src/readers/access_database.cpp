@@ -48,7 +48,7 @@ Sentence Describe(const JetFile& file, const JetCatalog& catalog) {
 class DatabaseReader {
   public:
     DatabaseReader(std::string_view bytes, const std::string& path, const Limits& limits)
-        : file_(bytes), path_(path), limits_(limits) {}
+        : file_(bytes), path_(path), limits_(limits.InProportionTo(bytes.size())), fileBytes_(bytes.size()) {}
 
     Document Read() {
         RefusePassword();
@@ -64,7 +64,8 @@ class DatabaseReader {
         if (document_.projectName.empty())
             document_.projectName = FromUtf8(std::filesystem::path(path_).stem().string());
         if (storages_) {
-            AddFormLayouts(*storages_, document_.codePage != 0 ? document_.codePage : file_.CodePage(), document_);
+            AddFormLayouts(*storages_, document_.codePage != 0 ? document_.codePage : file_.CodePage(), fileBytes_,
+                           document_);
         }
         ReportMissingSource(*catalog, compiledOnly);
         ReportDamage(*catalog);
@@ -168,7 +169,8 @@ class DatabaseReader {
 
     JetFile file_;
     const std::string& path_;
-    const Limits& limits_;
+    Limits limits_;
+    std::uint64_t fileBytes_;
     Document document_;
     /// The compound file that `storages_` looks at, where there is one.
     std::string compoundFile_;

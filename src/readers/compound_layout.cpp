@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "readers/byte_reader.h"
+#include "readers/sentences.h"
 
 namespace zentlor::readers {
 namespace {
@@ -36,6 +37,7 @@ class Measurer {
         if (!layout.sound) return layout;
         layout.tangled = IsTangled();
         layout.tooDeep = deepest_ > kDeepestTree;
+        layout.namesProject = namesProject_;
         return layout;
     }
 
@@ -101,7 +103,7 @@ class Measurer {
                        kEntryBytes);
     }
 
-    // Measures the depth of the directory on its way.
+    // Also measures the depth of the directory, and looks for the names of a project.
     bool IsTangled() {
         std::vector<bool> reached(CountEntries());
         struct Waiting {
@@ -114,7 +116,7 @@ class Measurer {
             waiting.pop_back();
             if (index == kFree) continue;
             deepest_ = std::max(deepest_, depth);
-            if (index >= reached.size() || reached[index]) return true;
+            if (index >= reached.size() || reached[index]) return namesProject_ = true;
             reached[index] = true;
             // Its neighbours on the left and right and, for a storage, the top of what is below it.
             const std::string_view entry = EntryAt(index);
@@ -122,7 +124,9 @@ class Measurer {
             if (U8At(entry, 0x42) != kStreamEntry) waiting.push_back({U32At(entry, 0x4C), depth + 1});
         }
         for (std::size_t index = 0; index < reached.size(); ++index) {
-            if (!reached[index] && BelongsToProject(EntryAt(index))) return true;
+            if (!BelongsToProject(EntryAt(index))) continue;
+            namesProject_ = true;
+            if (!reached[index]) return true;
         }
         return false;
     }
@@ -145,12 +149,21 @@ class Measurer {
     std::vector<std::uint32_t> tableSectors_;
     std::vector<std::uint32_t> directory_;
     std::uint32_t deepest_ = 0;
+    bool namesProject_ = false;
 };
 
 }  // namespace
 
 CompoundLayout MeasureCompoundFile(std::string_view bytes) {
     return Measurer(bytes).Measure();
+}
+
+void RequireFewEntries(std::uint64_t entries, const std::string& path, const Limits& limits) {
+    if (entries <= limits.storageEntries) return;
+    Fail(ReadFailure::Limit,
+         "\"[%1]\" enthält mehr als [%2] Speicher und Datenströme; --max-storage-entries hebt die Grenze an.",
+         "\"[%1]\" holds more than [%2] storages and streams; --max-storage-entries raises the limit.",
+         {path, std::to_string(limits.storageEntries)});
 }
 
 }  // namespace zentlor::readers

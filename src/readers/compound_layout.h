@@ -5,7 +5,10 @@
 // these are measured first.
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+
+#include "readers/document.h"
 
 namespace zentlor::readers {
 
@@ -21,8 +24,13 @@ struct CompoundLayout {
     bool tangled = false;
     /// The directory is deeper than a library can follow, and than any program makes it.
     bool tooDeep = false;
+    /// Some entry is called like a part of a VBA project. If there is none, there is no project.
+    bool namesProject = false;
 };
 
 CompoundLayout MeasureCompoundFile(std::string_view bytes);
+
+/// Throws `ReadError` with `Limit` if `entries` of the document `path` are more than `limits` allows.
+void RequireFewEntries(std::uint64_t entries, const std::string& path, const Limits& limits);
 
 }  // namespace zentlor::readers

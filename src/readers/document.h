@@ -112,8 +112,12 @@ struct Limits {
     std::uint32_t modules = 32767;              ///< modules of one project: --max-modules
     std::uint32_t storageDepth = 16;            ///< nested storages of a compound file: --max-storage-depth
     /// Storages and streams of a compound file, free entries included: --max-storage-entries. The library's time grows
-    /// with its square: half a second for these.
-    std::uint32_t storageEntries = 12288;
+    /// with its square: a second for these.
+    std::uint32_t storageEntries = 10500;
+
+    /// The limits for a file of that size: a small file does not get all of what the largest may take, so that memory
+    /// stays in proportion. Sizes that differ from their defaults were asked for, and count as they are.
+    Limits InProportionTo(std::uint64_t file) const;
 };
 
 }  // namespace zentlor::readers

@@ -21,16 +21,12 @@ Text Folded(TextView name) {
     return folded;
 }
 
+// Who asks for one stream of a storage does not pay for the names of all.
+constexpr int kLookupsWithoutIndex = 8;
+
 class GsfStorage final : public Storage {
   public:
-    explicit GsfStorage(GsfPointer<GsfInfile> infile) : infile_(std::move(infile)) {
-        const int count = gsf_infile_num_children(infile_.get());
-        for (int i = 0; i < count; ++i) {
-            const char* name = gsf_infile_name_by_index(infile_.get(), i);
-            names_.push_back(FromUtf8(name == nullptr ? "" : name));
-            indexes_.emplace(Folded(names_.back()), i);
-        }
-    }
+    explicit GsfStorage(GsfPointer<GsfInfile> infile) : infile_(std::move(infile)) {}
 
     std::vector<Text> StorageNames() const override { return NamesOf(true); }
     std::vector<Text> StreamNames() const override { return NamesOf(false); }
@@ -53,12 +49,30 @@ class GsfStorage final : public Storage {
     }
 
     GsfPointer<GsfInput> OpenChild(TextView name) const {
+        if (lookups_ < kLookupsWithoutIndex) {
+            ++lookups_;
+            // Finds a name in the case in which it is asked for, as nearly all are written.
+            GsfPointer<GsfInput> child(gsf_infile_child_by_name(infile_.get(), ToUtf8(name).c_str()));
+            if (child) return child;
+        }
+        KnowNames();
         const auto found = indexes_.find(Folded(name));
         if (found == indexes_.end()) return nullptr;
         return GsfPointer<GsfInput>(gsf_infile_child_by_index(infile_.get(), found->second));
     }
 
+    void KnowNames() const {
+        if (!names_.empty()) return;
+        const int count = gsf_infile_num_children(infile_.get());
+        for (int i = 0; i < count; ++i) {
+            const char* name = gsf_infile_name_by_index(infile_.get(), i);
+            names_.push_back(FromUtf8(name == nullptr ? "" : name));
+            indexes_.emplace(Folded(names_.back()), i);
+        }
+    }
+
     std::vector<Text> NamesOf(bool storages) const {
+        KnowNames();
         std::vector<Text> names;
         for (std::size_t i = 0; i < names_.size(); ++i) {
             const GsfPointer<GsfInput> child(gsf_infile_child_by_index(infile_.get(), static_cast<int>(i)));
@@ -68,8 +82,9 @@ class GsfStorage final : public Storage {
     }
 
     GsfPointer<GsfInfile> infile_;
-    std::vector<Text> names_;
-    std::unordered_map<Text, int> indexes_;
+    mutable int lookups_ = 0;
+    mutable std::vector<Text> names_;
+    mutable std::unordered_map<Text, int> indexes_;
 };
 
 }  // namespace
@@ -80,12 +95,7 @@ std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::str
     const CompoundLayout layout = MeasureCompoundFile(bytes);
     if (incomplete != nullptr) *incomplete = layout.truncated || layout.tangled;
     if (!layout.sound) return nullptr;
-    if (layout.directoryEntries > limits.storageEntries) {
-        Fail(ReadFailure::Limit,
-             "\"[%1]\" enthält mehr als [%2] Speicher und Datenströme; --max-storage-entries hebt die Grenze an.",
-             "\"[%1]\" holds more than [%2] storages and streams; --max-storage-entries raises the limit.",
-             {path, std::to_string(limits.storageEntries)});
-    }
+    RequireFewEntries(layout.directoryEntries, path, limits);
     if (layout.tooDeep) return nullptr;
     StartGsf();
     const GsfPointer<GsfInput> input(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),

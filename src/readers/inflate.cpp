@@ -33,6 +33,7 @@ std::string InflateLeniently(std::string_view packed, std::uint64_t maximum, Def
     inflateEnd(&stream);
     if (complete != nullptr) *complete = status == Z_STREAM_END && out.size() <= maximum;
     if (out.size() > maximum) out.resize(maximum);
+    out.shrink_to_fit();
     return out;
 }
 

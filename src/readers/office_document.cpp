@@ -8,6 +8,7 @@
 
 #include "core/utilities/encoding.h"
 #include "readers/access_controls.h"
+#include "readers/compound_layout.h"
 #include "readers/container.h"
 #include "readers/office_kind.h"
 #include "readers/ovba_project.h"
@@ -21,11 +22,6 @@ namespace {
 
 constexpr std::uint64_t kMiB = 1 << 20;
 constexpr std::uint64_t kHeadBytes = 1 << 16;
-
-// A bound that a small file does not get all of, so that memory stays in proportion to the file.
-std::uint64_t InProportion(std::uint64_t bound, std::uint64_t part, std::uint64_t times, std::uint64_t fileBytes) {
-    return std::min(bound, bound / part + times * fileBytes);
-}
 
 // The text between the first "<tag>" and the next "<".
 std::string ElementText(std::string_view xml, std::string_view tag) {
@@ -46,11 +42,10 @@ std::string Joined(const std::string& name, const std::string& version) {
 class DocumentReader {
   public:
     DocumentReader(std::string_view bytes, const std::string& path, const Limits& limits)
-        : bytes_(bytes), path_(path), limits_(limits) {
+        : bytes_(bytes), path_(path), limits_(limits.InProportionTo(bytes.size())) {
         document_.path = path;
         document_.projectName = FromUtf8(std::filesystem::path(path).stem().string());
-        limits_.sourceBytes = InProportion(limits.sourceBytes, 64, 2, bytes.size());
-        unpackedLeft_ = InProportion(limits.zipPartBytes, 16, 4, bytes.size());
+        unpackedLeft_ = limits_.zipPartBytes;
     }
 
     Document Read() {
@@ -112,8 +107,8 @@ class DocumentReader {
             if (!HasCompoundSignature(zip.Read(i, 8))) continue;
             std::string part = UnpackPart(zip, i);
             bool incomplete = false;
-            const auto root = OpenCompoundFile(part, path_, limits_, &incomplete);
-            damagedPart_ |= !root || incomplete;
+            const auto root = OpenInner(part, &incomplete);
+            damagedPart_ |= incomplete;
             if (root && HoldsOvbaProject(*root)) {
                 TakeProject(*root);
                 if (incomplete) ReportIncomplete();
@@ -125,6 +120,18 @@ class DocumentReader {
         const auto project = root ? FindBelow(*root) : nullptr;
         if (project) TakeProject(*project);
         return project != nullptr;
+    }
+
+    // A compound file inside of the document, or null if it cannot be read or holds no project. There may be many of
+    // them, so all those that are opened share one bound. `incomplete` becomes true where it cannot be read whole.
+    std::unique_ptr<Storage> OpenInner(std::string_view bytes, bool* incomplete = nullptr) {
+        const CompoundLayout layout = MeasureCompoundFile(bytes);
+        if (layout.sound && !layout.truncated && !layout.namesProject) return nullptr;
+        entriesOpened_ += layout.directoryEntries;
+        if (layout.sound) RequireFewEntries(entriesOpened_, path_, limits_);
+        auto root = OpenCompoundFile(bytes, path_, limits_, incomplete);
+        if (!root && incomplete != nullptr) *incomplete = true;
+        return root;
     }
 
     std::string UnpackPart(const ZipArchive& zip, std::size_t index) {
@@ -157,7 +164,7 @@ class DocumentReader {
         if (!read && !description) RefuseKind();
         if (incomplete) ReportIncomplete();
         // An Access project alone has forms of this kind; elsewhere nothing bears the names of their storages.
-        AddFormLayouts(*root, document_.codePage, document_);
+        AddFormLayouts(*root, document_.codePage, bytes_.size(), document_);
     }
 
     void RefuseEncrypted(const Storage& root) const {
@@ -192,7 +199,7 @@ class DocumentReader {
         const PptStorages storages = FindPptStorages(*stream, unpackedLeft_);
         if (storages.limitHit) RefuseUnpacked("PowerPoint Document", false);
         for (const std::string& bytes : storages.compoundFiles) {
-            const auto embedded = OpenCompoundFile(bytes, path_, limits_);
+            const auto embedded = OpenInner(bytes);
             if (!embedded || !HoldsOvbaProject(*embedded)) continue;
             TakeProject(*embedded);
             return true;
@@ -244,6 +251,7 @@ class DocumentReader {
     const std::string& path_;
     Limits limits_;
     std::uint64_t unpackedLeft_ = 0;
+    std::uint64_t entriesOpened_ = 0;
     bool damagedPart_ = false;
     Document document_;
 };

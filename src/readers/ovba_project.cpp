@@ -141,10 +141,12 @@ class ProjectReader {
     }
 
     Decompressed Unpack(std::string_view stream, std::uint32_t offset) const {
-        Decompressed text = DecompressContainer(BytesAt(stream, offset, stream.size()), limits_.moduleBytes);
+        // One byte more than is left for all modules is enough to see that it does not suffice.
+        const std::uint64_t maximum = std::min(limits_.moduleBytes, limits_.sourceBytes - textBytes_ + 1);
+        Decompressed text = DecompressContainer(BytesAt(stream, offset, stream.size()), maximum);
         if (!text.bytes.empty()) return text;
         const std::size_t found = FindSource(stream);
-        return found == std::string_view::npos ? text : DecompressContainer(stream.substr(found), limits_.moduleBytes);
+        return found == std::string_view::npos ? text : DecompressContainer(stream.substr(found), maximum);
     }
 
     // The source was taken out and its compiled form left: nothing, zeros or an empty container where it should be.

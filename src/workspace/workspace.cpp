@@ -100,11 +100,17 @@ class Opener {
             const Stopwatch watch(options_.times, &StageTimes::read);
             document = readers::ReadDocument(path, options_.limits);
         }
-        for (const readers::Sentence& problem : document.problems) workspace_.problems.push_back(problem);
+        auto problem = document.problems.begin();
         if (document.modules.empty()) {
-            workspace_.empty.push_back(std::move(document));
-            return;
+            if (problem == document.problems.end()) {
+                workspace_.empty.push_back(std::move(document));
+                return;
+            }
+            // Whether it holds code is what the problem kept from us.
+            workspace_.unreadable.push_back({path, readers::ReadFailure::Damaged, *problem++});
         }
+        workspace_.problems.insert(workspace_.problems.end(), problem, document.problems.end());
+        if (document.modules.empty()) return;
         for (readers::SourceModule& module : document.modules) module.path = path + "/" + ToUtf8(module.name);
         Add(std::move(document), true);
     }

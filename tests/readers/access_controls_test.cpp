@@ -28,7 +28,7 @@ std::string Describe(const std::vector<readers::FormLayout>& layouts) {
 
 readers::Document LayoutsOf(const StorageTree& tree) {
     readers::Document document;
-    readers::AddFormLayouts(*AsStorage(tree), 1252, document);
+    readers::AddFormLayouts(*AsStorage(tree), 1252, 16 << 20, document);
     return document;
 }
 

@@ -146,8 +146,8 @@ TEST(HostileOffice, RefusesStoragesWithoutEnd) {
     };
     ExpectVerdict(Verdict(nested(16)), "0 modules", "as deep as allowed");
     ExpectVerdict(Verdict(nested(17)), "--max-storage-depth", "one too deep");
-    ExpectVerdict(Verdict(nested(12000)), "--max-storage-depth", "far too deep");
-    ExpectVerdict(Verdict(nested(20000)), "more than 12288 storages", "too many for the library's stack");
+    ExpectVerdict(Verdict(nested(10400)), "--max-storage-depth", "far too deep");
+    ExpectVerdict(Verdict(nested(20000)), "more than 10500 storages", "too many for the library's stack");
     Limits limits;
     limits.storageDepth = 17;
     ExpectVerdict(Verdict(nested(17), limits), "0 modules", "raised");
@@ -159,12 +159,12 @@ TEST(HostileOffice, RefusesEntriesWithoutEnd) {
     StorageTree tree;
     for (int i = 0; i < 40000; ++i) tree.streams.push_back({u"s" + ToText(i), ""});
     for (bool list : {false, true}) {
-        ExpectVerdict(Verdict(test::WriteCompoundFile(tree, {true, list}).bytes), "more than 12288 storages", "many");
+        ExpectVerdict(Verdict(test::WriteCompoundFile(tree, {true, list}).bytes), "more than 10500 storages", "many");
     }
-    tree.streams.resize(12400);
+    tree.streams.resize(10600);
     tree.Put(u"WordDocument", "x");
     Limits limits;
-    limits.storageEntries = 12500;
+    limits.storageEntries = 10700;
     ExpectVerdict(Verdict(test::WriteCompoundFile(tree).bytes), "--max-storage-entries raises the limit", "a few more");
     ExpectVerdict(Verdict(test::WriteCompoundFile(tree).bytes, limits), "0 modules", "raised");
 }

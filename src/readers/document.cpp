@@ -1,0 +1,19 @@
+#include "readers/document.h"
+
+#include <algorithm>
+
+namespace zentlor::readers {
+
+Limits Limits::InProportionTo(std::uint64_t file) const {
+    const Limits defaults;
+    Limits limits = *this;
+    const auto bound = [&](std::uint64_t& bytes, std::uint64_t byDefault, std::uint64_t part, std::uint64_t times) {
+        if (bytes == byDefault) bytes = std::min(bytes, bytes / part + times * file);
+    };
+    // Modules are stored at a half to a quarter of their size, beside their compiled form, which is larger.
+    bound(limits.sourceBytes, defaults.sourceBytes, 64, 2);
+    bound(limits.zipPartBytes, defaults.zipPartBytes, 16, 4);
+    return limits;
+}
+
+}  // namespace zentlor::readers
