@@ -46,7 +46,7 @@ struct Attribute {
 // The parts of a physical line that begins an `Attribute` line.
 std::optional<Attribute> ParseAttribute(TextView line) {
     constexpr TextView kWord = u"Attribute";
-    std::size_t first = 0;
+    std::size_t first = SkipSpaces(line, 0);
     while (first < line.size() && IsBlank(line[first])) ++first;
     // Nearly every line ends here.
     if (first == line.size() || (line[first] | 0x20) != u'a') return std::nullopt;

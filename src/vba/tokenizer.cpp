@@ -19,6 +19,7 @@ class Scanner {
 
     void Run() {
         while (true) {
+            at_ = SkipSpaces(text_, at_);
             while (at_ < text_.size() && HasTrait(text_[at_], kBlank)) ++at_;
             if (at_ == text_.size()) break;
             ScanToken();

@@ -4,6 +4,8 @@
 #include <array>
 #include <numeric>
 
+#include "core/utilities/character_blocks.h"
+
 namespace zentlor {
 
 namespace {
@@ -95,8 +97,9 @@ bool IsProcedureEnd(TextView statement) {
 
 // The first character of a line that is no blank, 0 if there is none.
 char16_t FirstCharacter(TextView line) {
-    const auto first = std::find_if_not(line.begin(), line.end(), IsSpace);
-    return first == line.end() ? u'\0' : *first;
+    std::size_t first = SkipSpaces(line, 0);
+    while (first < line.size() && IsSpace(line[first])) ++first;
+    return first == line.size() ? u'\0' : line[first];
 }
 
 bool IsCommentLine(TextView line, char16_t first) {
@@ -118,9 +121,13 @@ template <class Visit>
 void ForEachStatementOf(TextView line, Visit visit) {
     std::size_t begin = 0;
     bool quoted = false;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == u'"') quoted = !quoted;
-        if (quoted || (line[i] != u':' && line[i] != u'\'')) continue;
+    for (std::size_t i = 0;; ++i) {
+        i = quoted ? FindAny(line, i, u'"') : FindAny(line, i, u'"', u':', u'\'');
+        if (i == line.size()) break;
+        if (line[i] == u'"') {
+            quoted = !quoted;
+            continue;
+        }
         visit(line.substr(begin, i - begin));
         if (line[i] == u'\'') return;
         begin = i + 1;

@@ -213,16 +213,18 @@ std::span<const Place> WordIndex::PlacesOf(TextView word) const {
 }
 
 std::span<const Place> WordIndex::PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const {
-    if (!IsSame(last_.word, word)) last_ = {Text(word), PlacesOf(word), 0};
-    const std::span<const Place> all = last_.places;
+    if (word.empty()) return {};
+    Search& search = searches_[(word.front() + word.size()) % searches_.size()];
+    if (!IsSame(search.word, word)) search = {Text(word), PlacesOf(word), 0};
+    const std::span<const Place> all = search.places;
     const Place from = moduleStarts_[module] + fromOffset;
-    std::size_t passed = last_.passed;
+    std::size_t passed = search.passed;
     const bool goesOn = passed == 0 || all[passed - 1] < from;
     if (goesOn && passed < all.size() && all[passed] < from) ++passed;
     if (!goesOn || (passed < all.size() && all[passed] < from)) {
         passed = static_cast<std::size_t>(std::lower_bound(all.begin(), all.end(), from) - all.begin());
     }
-    last_.passed = passed;
+    search.passed = passed;
     return all.subspan(passed);
 }
 

@@ -3,6 +3,7 @@
 // Every word of a project with its places, in order. One index over all modules: a question costs what the word's own
 // occurrences cost, however many modules there are.
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -53,7 +54,7 @@ class WordIndex {
         Key key;
         std::uint32_t id = 0;
     };
-    // Where the last search in a module ended: the places of its word, and how many of them it left behind.
+    // Where the last search of a word ended: its places, and how many of them it left behind.
     struct Search {
         Text word;
         std::span<const Place> places;
@@ -68,8 +69,8 @@ class WordIndex {
     std::uint32_t IdOf(const Key& key);
     void Grow();
 
-    mutable Search last_;
-    std::vector<Slot> slots_;  ///< open addressing, a power of two
+    mutable std::array<Search, 16> searches_;  ///< a few words are searched in turn, procedure after procedure
+    std::vector<Slot> slots_;                  ///< open addressing, a power of two
     std::uint32_t words_ = 0;
     std::vector<Place> moduleStarts_;
     std::vector<std::uint32_t> starts_;  ///< by id: where its places begin in places_

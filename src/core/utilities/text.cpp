@@ -98,15 +98,11 @@ Text ReplaceAll(TextView text, TextView from, TextView to) {
     return result.append(text.substr(position));
 }
 
-bool IsWordCharacter(char16_t c) {
-    if (c < 0x80) {
-        return InRange(c, u'a', u'z') || InRange(c, u'A', u'Z') || InRange(c, u'0', u'9') || c == u'_';
-    }
+bool IsWordCharacterOutsideAscii(char16_t c) {
     return !IsSymbolOutsideAscii(c);
 }
 
-char16_t FoldCase(char16_t c) {
-    if (c < 0x80) return InRange(c, u'A', u'Z') ? static_cast<char16_t>(c + 32) : c;
+char16_t FoldCaseOutsideAscii(char16_t c) {
     const bool plus32 = (InRange(c, 0x00C0, 0x00DE) && c != 0x00D7) || (InRange(c, 0x0391, 0x03A9) && c != 0x03A2) ||
                         InRange(c, 0x0410, 0x042F) || InRange(c, 0xFF21, 0xFF3A);
     if (plus32) return static_cast<char16_t>(c + 32);

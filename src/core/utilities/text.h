@@ -40,6 +40,12 @@ std::size_t FindCharacter(TextView text, std::size_t from, char16_t wanted);
 /// The same for a `target` of one character and more.
 std::size_t FindText(TextView text, std::size_t from, TextView target);
 
+/// Offset of the first character at or behind offset `from` that is no " ", or the text's size.
+inline std::size_t SkipSpaces(TextView text, std::size_t from) {
+    while (from < text.size() && text[from] == u' ') ++from;
+    return from;
+}
+
 /// `a == b`, quicker for words: the standard's comparison of this type of text goes character by character.
 inline bool IsSame(TextView a, TextView b) {
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
@@ -52,11 +58,20 @@ Text ToText(long long number);
 Text ReplaceAll(TextView text, TextView from, TextView to);
 
 /// Letters, digits and "_" in the sense of a whole-word search: every letter and digit of Unicode's basic plane.
-bool IsWordCharacter(char16_t c);
+bool IsWordCharacterOutsideAscii(char16_t c);
+inline bool IsWordCharacter(char16_t c) {
+    if (c >= 0x80) return IsWordCharacterOutsideAscii(c);
+    const char16_t lower = c | 0x20;
+    return (lower >= u'a' && lower <= u'z') || (c >= u'0' && c <= u'9') || c == u'_';
+}
 
 /// Simple lower case of one code unit, for comparisons that ignore case: Latin, Greek and Cyrillic letters; all other
 /// characters are themselves.
-char16_t FoldCase(char16_t c);
+char16_t FoldCaseOutsideAscii(char16_t c);
+inline char16_t FoldCase(char16_t c) {
+    if (c >= 0x80) return FoldCaseOutsideAscii(c);
+    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c | 0x20) : c;
+}
 bool EqualIgnoringCase(TextView a, TextView b);
 
 }  // namespace zentlor
