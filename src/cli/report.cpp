@@ -33,9 +33,10 @@ class TextReport : public Report {
                 const int line = origin->FileLine(hint.lngZeile == 0 ? 1 : hint.lngZeile);
                 fmt::format_to(out, "{}{}:{}:{} ", bold_, Printable(origin->path), line, off_);
             }
-            fmt::format_to(out, "{}.{}: {} {}[{}]{}\n", Printable(TextView(hint.strNameVBC)),
-                           Printable(TextView(hint.strProzedur)), Printable(TextView(hint.strHinweis)), dim_,
-                           ToUtf8(InfoOf(hint.check).key), off_);
+            // What stands between two procedures belongs to none.
+            fmt::format_to(out, "{}{}{}: {} {}[{}]{}\n", Printable(TextView(hint.strNameVBC)),
+                           hint.strProzedur.empty() ? "" : ".", Printable(TextView(hint.strProzedur)),
+                           Printable(TextView(hint.strHinweis)), dim_, ToUtf8(InfoOf(hint.check).key), off_);
         }
     }
 
