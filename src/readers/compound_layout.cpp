@@ -33,7 +33,7 @@ class Measurer {
         // A chain that is longer than the file has sectors runs in a circle.
         for (; sector < sectors_ && directory_.size() <= sectors_; sector = Next(sector)) directory_.push_back(sector);
         layout.directoryEntries = CountEntries();
-        layout.sound = sector == kEndOfChain && !directory_.empty();
+        layout.sound = sector == kEndOfChain && !directory_.empty() && RootStandsAlone();
         if (!layout.sound) return layout;
         layout.tangled = IsTangled();
         layout.tooDeep = deepest_ > kDeepestTree;
@@ -101,6 +101,12 @@ class Measurer {
         const std::size_t perSector = sectorBytes_ / kEntryBytes;
         return BytesAt(bytes_, OffsetOf(directory_[index / perSector]) + kEntryBytes * (index % perSector),
                        kEntryBytes);
+    }
+
+    // The library never lets go of what hangs beside the root.
+    bool RootStandsAlone() const {
+        const std::string_view root = EntryAt(0);
+        return U32At(root, 0x44) == kFree && U32At(root, 0x48) == kFree;
     }
 
     // Also measures the depth of the directory, and looks for the names of a project.

@@ -13,7 +13,8 @@
 namespace zentlor::readers {
 
 struct CompoundLayout {
-    /// Header, allocation table and directory chain agree with the size of the file.
+    /// Header, allocation table and directory chain agree with the size of the file, and nothing stands beside the
+    /// root of the directory.
     bool sound = false;
     /// Entries of the directory, free ones included.
     std::uint64_t directoryEntries = 0;

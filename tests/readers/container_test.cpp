@@ -75,6 +75,7 @@ TEST(CompoundFile, RefusesWhatTheLibraryWouldTrust) {
         std::uint32_t value;
     };
     const Row rows[] = {
+        {"a storage beside the root, which the library would never let go", file.directory + 0x44, 1},
         {"more table sectors than the file has", 0x2C, 0x7FFFFFFF},
         {"a size of sectors that is none", 0x1C, 0x0015FFFE},
         {"a size of small sectors that is none", 0x20, 12},
