@@ -2,7 +2,8 @@
 
 // What a single character means to the tokenizer. ASCII is looked up in a table; outside of it full-width forms count
 // as the ASCII characters they stand for ([MS-VBAL] 3.1), the blanks of Unicode as blanks, and nearly everything else
-// may be part of a name, as the editor's code pages allow "§" and "€" beside the letters.
+// may be part of a name, as the editor's code pages allow "§" and "€" beside the letters. So may the codes of U+0080 to
+// U+009F: where they come up, a letter of another code page was read as one of Windows-1252.
 
 #include <array>
 #include <cstdint>
@@ -46,7 +47,7 @@ constexpr char16_t FoldWidth(char16_t c) {
 constexpr std::uint8_t WideTraits(char16_t c) {
     const char16_t folded = FoldWidth(c);
     if (folded < 128) return kCharacterTable[folded];
-    const bool isControl = c < 0xA0 || c == 0xFEFF || c == 0x2028 || c == 0x2029;
+    const bool isControl = c == 0xFEFF || c == 0x2028 || c == 0x2029;
     const bool isQuotationMark = (c >= 0x2018 && c <= 0x201F) || c == 0xFF02 || c == 0xFF07;
     return isControl || isQuotationMark ? 0 : kNameStart | kNamePart;
 }

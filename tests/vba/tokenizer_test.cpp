@@ -34,6 +34,7 @@ TEST(Tokenizer, Words) {
     Check({
         {"keywords in any case", u"DIM x aS lOnG", "K:DIM N:x K:aS K:lOnG /"},
         {"letters outside of ASCII", u"Größe_2 = straße", "N:Größe_2 = N:straße /"},
+        {"a letter of another code page", u"za\u009D = \u008Fle", "N:za\u009D = N:\u008Fle /"},
         {"full-width forms are their ASCII characters", u"Ｄｉｍ　ａ１（２）", "K:Ｄｉｍ N:ａ１ （ I:２ ） /"},
         {"a keyword in a longer word", u"Dimension EndIfx", "N:Dimension N:EndIfx /"},
         {"a reserved word is a member behind a dot", u"rs.Close: x!Next", "N:rs . M:Close : N:x ! M:Next /"},
