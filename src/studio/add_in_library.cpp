@@ -71,6 +71,8 @@ void AddInLibrary::AddinInstance_OnConnection(EditorUi& application, const AddIn
         kPaneClass, [this](std::unique_ptr<PaneObject>& docObj) { return component_->CreatePane(docObj); });
     QObject::connect(&component_->pane, &PaneWidget::WordsWritten, [this] { wordsWritten(); });
     QObject::connect(&component_->pane, &PaneWidget::RowsPublished, [this] { rowsPublished(); });
+    QObject::connect(&component_->pane, &PaneWidget::RunBegins, [this] { runBegins(); });
+    QObject::connect(&component_->pane, &PaneWidget::JumpBegins, [this] { jumpBegins(); });
     component_->addIn.AddinInstance_OnConnection(application, addInInst);
 }
 

@@ -42,6 +42,8 @@ class AddInLibrary : public AddinInstance {
 
     std::function<void()> wordsWritten = [] {};
     std::function<void()> rowsPublished = [] {};
+    std::function<void()> runBegins = [] {};
+    std::function<void()> jumpBegins = [] {};
 
   private:
     class Component;

@@ -62,15 +62,13 @@ CodeView* CodeTabs::CurrentView() const {
 
 const VBComponent* CodeTabs::CurrentComponent() const {
     for (const Pane& pane : panes_) {
-        if (pane.view == currentWidget()) return FindComponent(pane);
+        if (pane.view == currentWidget()) return pane.shown;
     }
     return nullptr;
 }
 
 CodeView& CodeTabs::Show(const VBComponent& component) {
-    const auto isShown = [&](const Pane& pane) {
-        return pane.project == component.Project().Name() && pane.component == component.Name();
-    };
+    const auto isShown = [&](const Pane& pane) { return pane.shown == &component; };
     const auto found = std::find_if(panes_.begin(), panes_.end(), isShown);
     CodeView* view = found == panes_.end() ? Create(component) : found->view;
     setCurrentWidget(view);
@@ -78,7 +76,12 @@ CodeView& CodeTabs::Show(const VBComponent& component) {
 }
 
 CodeView* CodeTabs::Create(const VBComponent& component) {
-    const Pane pane{new CodeView, component.Project().Name(), component.Name()};
+    const std::vector<workspace::OpenedProject>& all = projects_.All();
+    const auto project = std::find_if(all.begin(), all.end(), [&](const workspace::OpenedProject& opened) {
+        return opened.project.get() == &component.Project();
+    });
+    const Pane pane{new CodeView, &component, static_cast<std::size_t>(project - all.begin()),
+                    component.Project().Name(), component.Name()};
     pane.view->zoomIn(zoom_);
     pane.view->SetCode(component.CodeModule().AllText());
     pane.view->setAccessibleName(words_(Word::CodeOf).arg(ToQString(component.Name())));
@@ -101,27 +104,30 @@ void CodeTabs::Close(int index) {
     view->deleteLater();
 }
 
+// Of several projects of the name the one at the old place.
 const VBComponent* CodeTabs::FindComponent(const Pane& pane) const {
-    for (const workspace::OpenedProject& opened : projects_.All()) {
-        if (opened.project->Name() != pane.project) continue;
-        for (const auto& component : opened.project->VBComponents()) {
-            if (component->Name() == pane.component) return component.get();
+    const VBComponent* found = nullptr;
+    for (std::size_t i = 0; i < projects_.All().size(); ++i) {
+        const VBProject& project = *projects_.All()[i].project;
+        if (project.Name() != pane.project || (found != nullptr && i != pane.projectIndex)) continue;
+        for (const auto& component : project.VBComponents()) {
+            if (component->Name() == pane.component) found = component.get();
         }
     }
-    return nullptr;
+    return found;
 }
 
 // Panes of modules that are still there show their new text, the others close.
 void CodeTabs::FollowProjects() {
+    for (Pane& pane : panes_) pane.shown = FindComponent(pane);
     SetHints(nullptr, nullptr);
     for (const Pane& pane : std::vector<Pane>(panes_)) {
-        const VBComponent* component = FindComponent(pane);
-        if (component == nullptr) {
+        if (pane.shown == nullptr) {
             Close(indexOf(pane.view));
             continue;
         }
         const Place place(*pane.view);
-        pane.view->SetCode(component->CodeModule().AllText());
+        pane.view->SetCode(pane.shown->CodeModule().AllText());
         place.Restore(*pane.view);
     }
 }
@@ -134,7 +140,7 @@ void CodeTabs::SetHints(const ResultList* hints, const VBProject* project) {
 
 void CodeTabs::Mark(const Pane& pane) const {
     std::map<int, QString> marks;
-    const bool mayHaveHints = hints_ != nullptr && hintsProject_ != nullptr && hintsProject_->Name() == pane.project;
+    const bool mayHaveHints = hints_ != nullptr && pane.shown != nullptr && &pane.shown->Project() == hintsProject_;
     if (mayHaveHints) {
         for (const Hint& hint : hints_->Emitted()) {
             if (hint.strNameVBC != pane.component) continue;

@@ -36,8 +36,12 @@ class CodeTabs : public QTabWidget {
     void ContextMenuWanted(const QPoint& globalPosition);
 
   private:
+    // Projects may bear one name, as those of two new workbooks do: the component is what counts, and names and place
+    // find it again when the projects were read anew.
     struct Pane {
         CodeView* view = nullptr;
+        const VBComponent* shown = nullptr;
+        std::size_t projectIndex = 0;
         Text project;
         Text component;
     };

@@ -111,6 +111,7 @@ void PaneWidget::ConnectClicks() {
         if (pane_ != nullptr) pane_->lvwErgebnis_ColumnClick(column);
     });
     connect(list_, &HintList::JumpWanted, this, [this](int row) {
+        Q_EMIT JumpBegins();
         if (pane_ != nullptr) pane_->lvwErgebnis_DblClick(static_cast<std::size_t>(row));
     });
 }
@@ -205,6 +206,7 @@ void PaneWidget::SetPanel(int panel, TextView text) {
 }
 
 void PaneWidget::EnableStop(bool enabled) {
+    if (enabled) Q_EMIT RunBegins();
     Button(kStopButton)->setEnabled(enabled);
 }
 

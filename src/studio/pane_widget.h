@@ -68,6 +68,10 @@ class PaneWidget : public QWidget, public PaneView, public PaneTexts {
     void WordsWritten();
     /// The list shows other rows than before, or none.
     void RowsPublished();
+    /// The checks begin; the hints to come are those of the active project.
+    void RunBegins();
+    /// The user has asked for the code of a hint.
+    void JumpBegins();
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -47,6 +47,9 @@ Studio::Studio(std::string settingsPath)
     projects_.pinned = [this] { return addIn_.Running(); };
     addIn_.wordsWritten = [this] { Retranslate(); };
     addIn_.rowsPublished = [this] { MarkHints(); };
+    // A hint names its module, not its project: it is looked for in the project that was active when the run began.
+    addIn_.runBegins = [this] { hintsProject_ = projects_.ActiveIndex(); };
+    addIn_.jumpBegins = [this] { projects_.SetActive(hintsProject_); };
     window_.mayClose = [this] { return MayClose(); };
     ConnectActions();
     Retranslate();
@@ -119,8 +122,8 @@ void Studio::Retranslate() {
 }
 
 void Studio::MarkHints() {
-    const workspace::OpenedProject* active = projects_.Active();
-    window_.Tabs().SetHints(addIn_.Results(), active == nullptr ? nullptr : active->project.get());
+    const bool isOpen = hintsProject_ < projects_.All().size();
+    window_.Tabs().SetHints(addIn_.Results(), isOpen ? projects_.All()[hintsProject_].project.get() : nullptr);
 }
 
 void Studio::Compile() {

@@ -38,6 +38,9 @@ class Studio : public QObject {
     bool MayClose();
     void TellSettingsProblem();
 
+    /// Of the open projects the one in which the pane's hints were found.
+    std::size_t hintsProject_ = 0;
+
     StudioSettings settings_;
     Words words_;
     QTranslator qtWords_;

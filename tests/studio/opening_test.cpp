@@ -67,6 +67,31 @@ TEST_F(OpeningTest, HintsGoWithTheCodeThatIsNoLongerOpen) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return Pane().List().model()->rowCount() == 0; })) << "no code";
 }
 
+// Both projects bear the name of their folder, and both have a module of one name.
+TEST_F(OpeningTest, AHintLeadsToItsOwnProjectWhicheverIsActive) {
+    QStringList paths;
+    for (const char* name : {"eins/VBAProject", "zwei/VBAProject"}) {
+        paths << folder_.filePath(QString::fromLatin1(name));
+        QDir().mkpath(paths.back());
+        WriteModule(QString::fromLatin1(name) + QStringLiteral("/Modul1.bas"), "Sub A()\r\nEnd Sub\r\n");
+    }
+    bool done = false;
+    QObject::connect(&studio_->Opening(), &Opening::Done, [&done] { done = true; });
+    studio_->Opening().Open(paths);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return done && studio_->Projects().All().size() == 2; }));
+    const auto component = [&](std::size_t project) -> const VBComponent& {
+        return *studio_->Projects().All()[project].project->VBComponents().front();
+    };
+    Click(kRefresh);
+    CodeView& other = Window().Tabs().Show(component(1));
+    EXPECT_EQ(studio_->Projects().ActiveIndex(), 1U) << "the project of the code that is read";
+    EXPECT_TRUE(other.Marks().empty());
+    Pane().List().setCurrentIndex(Pane().List().model()->index(0, 0));
+    QTest::keyClick(&Pane().List(), Qt::Key_Return);
+    EXPECT_EQ(Window().SelectedComponent(), &component(0));
+    EXPECT_FALSE(Window().Tabs().CurrentView()->Marks().empty());
+}
+
 TEST_F(OpeningTest, AChangeOnDiskIsReadAgain) {
     const QString file = WriteModule(QStringLiteral("Modul1.bas"), "' alt\r\nSub A()\r\nEnd Sub\r\n");
     ASSERT_TRUE(Open(folder_.path()));

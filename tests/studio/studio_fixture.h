@@ -71,7 +71,7 @@ class StudioTest : public testing::Test {
     QString WriteModule(const QString& name, const QByteArray& code) {
         QFile file(folder_.filePath(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("Attribute VB_Name = \"" + name.section(u'.', 0, 0).toLatin1() + "\"\r\n" + code);
+        file.write("Attribute VB_Name = \"" + QFileInfo(name).baseName().toLatin1() + "\"\r\n" + code);
         return file.fileName();
     }
 
