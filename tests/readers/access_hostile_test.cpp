@@ -199,6 +199,19 @@ TEST(HostileDatabase, EndsSoonWithTenThousandModules) {
     EXPECT_EQ(Read(bytes, "one stream"), Outcome::SomeModules) << "the file cannot hold what it claims";
 }
 
+TEST(HostileDatabase, BoundsItsSourceInProportionToItsSize) {
+    TestProject project;
+    project.modules = {StandardModule(u"A", std::string(3 << 20, '\'')),
+                       StandardModule(u"B", std::string(3 << 20, 'b'))};
+    const std::string bytes = WriteAccessStorage(WriteAccessTree(project), {}).bytes;
+    const Document bounded = ReadAccessDatabase(bytes, "x", {});
+    EXPECT_EQ(bounded.modules.size(), 1u);
+    EXPECT_NE(bounded.problems.at(0).english.find("--max-source-size"), std::string::npos);
+    readers::Limits limits;
+    limits.sourceBytes = 7 << 20;
+    EXPECT_EQ(ReadAccessDatabase(bytes, "x", limits).modules.size(), 2u) << "what is asked for counts as it is";
+}
+
 TEST(HostileDatabase, KeepsWhatADamagedRowDoesNotTouch) {
     const StorageTree tree = WriteAccessTree(ManyModules());
     JetDatabase database = WriteAccessStorage(tree, {.inRowBytes = 0, .oneRowBytes = 0, .chainBytes = 200});

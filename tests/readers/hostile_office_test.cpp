@@ -182,6 +182,19 @@ TEST(HostileOffice, BoundsWhatAZipUnpacksTo) {
     ExpectVerdict(Verdict(test::WriteZip(parts), limits), "--max-zip-parts raises the limit", "too many parts");
 }
 
+TEST(HostileOffice, BoundsTheEntriesOfAllInnerFilesTogether) {
+    for (const bool named : {false, true}) {
+        StorageTree inner;
+        for (int i = 0; i < 1000; ++i) inner.streams.push_back({u"s" + ToText(i), ""});
+        if (named) inner.Put(u"dir", "x");
+        std::vector<test::ZipTestPart> parts = test::WorkbookParts("");
+        for (int i = 0; i < 12; ++i)
+            parts.push_back({"xl/" + std::to_string(i) + ".bin", test::WriteCompoundFile(inner).bytes});
+        ExpectVerdict(Verdict(test::WriteZip(parts)), named ? "--max-storage-entries raises the limit" : "0 modules",
+                      named ? "each may hold a project" : "none names a project, and none is opened");
+    }
+}
+
 TEST(HostileOffice, BoundsWhatAPresentationUnpacksTo) {
     const std::string bomb = std::string("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + std::string(60 << 20, '\0');
     StorageTree tree;

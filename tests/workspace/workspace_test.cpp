@@ -6,6 +6,8 @@
 
 #include "core/utilities/encoding.h"
 #include "readers/exported_module.h"
+#include "support/documents/compound_file_writer.h"
+#include "support/documents/ovba_writer.h"
 #include "support/run_program.h"
 #include "workspace/settings_file.h"
 
@@ -121,6 +123,18 @@ TEST(Workspace, FormWithoutModuleIsNoModule) {
     EXPECT_EQ(opened.projects[0].origins[0].FileLine(1), 5);
     EXPECT_EQ(opened.empty.size(), 1U);
     EXPECT_TRUE(opened.Complete());
+}
+
+TEST(Workspace, DocumentWhoseCodeALimitKeptIsNotEmpty) {
+    const TemporaryFolder folder;
+    test::TestProject project;
+    project.modules = {test::StandardModule(u"M", std::string(10000, '\''))};
+    WriteFile(folder.path / "a.xls", test::WriteCompoundFile(test::WriteProject(project)).bytes);
+    OpenOptions options;
+    options.limits.sourceBytes = 1000;
+    const Workspace opened = Open({folder.path.string()}, options);
+    EXPECT_TRUE(opened.empty.empty());
+    EXPECT_EQ(opened.unreadable.size(), 1U);
 }
 
 TEST(Workspace, NothingToReadIsNoCleanResult) {
