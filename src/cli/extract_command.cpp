@@ -135,8 +135,9 @@ class InfoPage {
 
     void PrintModules(const workspace::OpenedProject& project) const {
         for (const auto& component : project.project->VBComponents()) {
+            const int lines = component->CodeModule().CountOfLines();
             fmt::print("  {:<40}{:<22}{:>7} {}\n", Printable(TextView(component->Name())), TypeWord(component->Type()),
-                       component->CodeModule().CountOfLines(), Word("Zeilen", "lines"));
+                       lines, lines == 1 ? Word("Zeile", "line") : Word("Zeilen", "lines"));
         }
     }
 
@@ -144,7 +145,7 @@ class InfoPage {
 
   private:
     void Row(const char* german, const char* english, const std::string& value) const {
-        if (!value.empty()) fmt::print("  {:<12}{}\n", Word(german, english) + ":", Printable(value));
+        if (!value.empty()) fmt::print("  {:<13}{}\n", Word(german, english) + ":", Printable(value));
     }
 
     std::string TypeWord(int type) const {

@@ -37,6 +37,25 @@ enum Record : std::uint16_t {
 constexpr std::size_t kMaximumReferences = 4096;
 constexpr std::size_t kLongestName = 2048;
 
+// "c.0" as "12.0": both numbers of a version are hexadecimal, of up to four digits.
+Text DecimalVersion(const Text& version) {
+    Text decimal;
+    for (std::size_t at = 0; at <= version.size();) {
+        const std::size_t end = std::min(version.find(u'.', at), version.size());
+        std::uint32_t number = 0;
+        for (const char16_t c : version.substr(at, end - at)) {
+            const TextView digits = u"0123456789abcdef";
+            const std::size_t digit = digits.find(static_cast<char16_t>(c >= u'A' && c <= u'F' ? c | 0x20 : c));
+            if (digit == TextView::npos || end - at > 4) return version;
+            number = number * 16 + static_cast<std::uint32_t>(digit);
+        }
+        if (at > 0) decimal += u'.';
+        decimal += ToText(number);
+        at = end + 1;
+    }
+    return decimal;
+}
+
 // The library identifier of a registered reference is "*\G{GUID}#version#language#path#description", that of a project
 // "*\C" or "*\A" and its path.
 Text DescribeReference(const Text& name, const Text& identifier) {
@@ -49,7 +68,7 @@ Text DescribeReference(const Text& name, const Text& identifier) {
         }
     }
     Text what = fields.size() >= 5 ? fields[4] : identifier.substr(std::min<std::size_t>(3, identifier.size()));
-    if (fields.size() >= 5 && !fields[1].empty()) what += u" " + fields[1];
+    if (fields.size() >= 5 && !fields[1].empty()) what += u" " + DecimalVersion(fields[1]);
     if (fields.size() >= 5 && !fields[3].empty()) what += u" (" + fields[3] + u")";
     if (name.empty()) return what;
     return what.empty() ? name : name + u": " + what;

@@ -59,14 +59,14 @@ TEST(OvbaDir, TellsReferencesAsAPersonReadsThem) {
         test::RegisteredReference("stdole",
                                   "*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#C:\\stdole2.tlb#OLE Automation") +
         // A control's library: the one it was made from, its twin, and a name for the twin.
-        DirRecord(0x16, "MSForms") + DirRecord(0x33, "*\\G{0D45}#2.0#0#C:\\FM20.DLL#Forms Library") +
+        DirRecord(0x16, "MSForms") + DirRecord(0x33, "*\\G{0D45}#C.1a#0#C:\\FM20.DLL#Forms Library") +
         DirRecord(0x2F, control) + DirRecord(0x16, "MSForms") + DirRecord(0x30, control) + DirRecord(0x16, "Basis") +
         DirRecord(0x0E, std::string("\x0D\0\0\0", 4) + "*\\CC:\\Bib.xla" + std::string(10, '\0'));
     project.modules = {test::StandardModule(u"M", "")};
     const OvbaDir dir = ParseOvbaDir(test::WriteDir(project), 100);
     ASSERT_EQ(dir.references.size(), 3u) << "the twin of a control's library is no reference of its own";
     EXPECT_EQ(ToUtf8(dir.references[0]), "stdole: OLE Automation 2.0 (C:\\stdole2.tlb)");
-    EXPECT_EQ(ToUtf8(dir.references[1]), "MSForms: Forms Library 2.0 (C:\\FM20.DLL)");
+    EXPECT_EQ(ToUtf8(dir.references[1]), "MSForms: Forms Library 12.26 (C:\\FM20.DLL)");
     EXPECT_EQ(ToUtf8(dir.references[2]), "Basis: C:\\Bib.xla");
     EXPECT_EQ(dir.modules.size(), 1u);
 }
