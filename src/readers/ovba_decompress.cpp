@@ -6,6 +6,8 @@
 #include "readers/ovba_decompress.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
 
 #include "readers/byte_reader.h"
 
@@ -21,38 +23,73 @@ bool IsChunkHeader(std::uint16_t header) {
 
 // How many bits of a copy token hold the distance, `position` bytes into the chunk.
 unsigned DistanceBits(std::size_t position) {
-    unsigned bits = 4;
-    while ((std::size_t{1} << bits) < position) ++bits;
-    return bits;
+    return std::max(4u, static_cast<unsigned>(std::bit_width(position - 1)));
 }
 
-// Appends what `token` repeats. False if it reaches out of the chunk, which begins at `start`.
-bool Copy(std::uint16_t token, std::size_t start, std::string& out) {
-    const std::size_t position = out.size() - start;
-    const unsigned bits = DistanceBits(position);
-    const std::size_t distance = (token >> (16 - bits)) + 1u;
-    const std::size_t length = (token & (0xFFFFu >> bits)) + 3u;
-    if (distance > position || position + length > kChunkBytes) return false;
-    // Byte by byte, since a copy may repeat what it has just written.
-    for (std::size_t i = 0; i < length; ++i) out.push_back(out[out.size() - distance]);
-    return true;
-}
-
-bool UnpackTokens(std::string_view data, std::string& out) {
-    const std::size_t start = out.size();
-    for (std::size_t i = 0; i < data.size();) {
-        const unsigned flags = U8At(data, i++);
-        for (unsigned bit = 0; bit < 8 && i < data.size(); ++bit) {
-            if ((flags >> bit & 1) == 0) {
-                if (out.size() - start == kChunkBytes) return false;
-                out.push_back(data[i++]);
+// One chunk while it is unpacked. Behind its end is room for what is written eight bytes at a time.
+class Chunk {
+  public:
+    // False where a token makes no sense; what came before it is there.
+    bool Unpack(std::string_view data) {
+        for (std::size_t i = 0; i < data.size();) {
+            const unsigned flags = U8At(data, i++);
+            if (flags == 0 && i + kGroup <= data.size() && filled_ + kGroup <= kChunkBytes) {
+                std::memcpy(bytes_ + filled_, data.data() + i, kGroup);
+                filled_ += kGroup;
+                i += kGroup;
                 continue;
             }
-            if (i + 1 >= data.size() || !Copy(U16At(data, i), start, out)) return false;
+            if (!UnpackGroup(flags, data, i)) return false;
+        }
+        return true;
+    }
+
+    std::string_view Bytes() const { return {bytes_, filled_}; }
+
+  private:
+    static constexpr std::size_t kGroup = 8;
+
+    bool UnpackGroup(unsigned flags, std::string_view data, std::size_t& i) {
+        for (unsigned bit = 0; bit < kGroup && i < data.size(); ++bit) {
+            if ((flags >> bit & 1) == 0) {
+                if (filled_ == kChunkBytes) return false;
+                bytes_[filled_++] = data[i++];
+                continue;
+            }
+            if (i + 1 >= data.size() || !Copy(U16At(data, i))) return false;
             i += 2;
         }
+        return true;
     }
-    return true;
+
+    // Repeats what `token` says. False if it reaches out of the chunk.
+    bool Copy(std::uint16_t token) {
+        if (filled_ == 0) return false;
+        const unsigned bits = DistanceBits(filled_);
+        const std::size_t distance = (token >> (16 - bits)) + 1u;
+        const std::size_t length = (token & (0xFFFFu >> bits)) + 3u;
+        if (distance > filled_ || filled_ + length > kChunkBytes) return false;
+        char* to = bytes_ + filled_;
+        const char* from = to - distance;
+        filled_ += length;
+        if (distance >= kGroup) {
+            for (std::size_t done = 0; done < length; done += kGroup) std::memcpy(to + done, from + done, kGroup);
+        } else {
+            // Byte by byte, since it repeats what it has just written.
+            for (std::size_t done = 0; done < length; ++done) to[done] = from[done];
+        }
+        return true;
+    }
+
+    std::size_t filled_ = 0;
+    char bytes_[kChunkBytes + kGroup];
+};
+
+bool UnpackTokens(std::string_view data, std::string& out) {
+    Chunk chunk;
+    const bool sound = chunk.Unpack(data);
+    out += chunk.Bytes();
+    return sound;
 }
 
 }  // namespace
