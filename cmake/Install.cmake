@@ -49,9 +49,10 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Loaded at run time, so no library dependency tells of them: the containers of Office documents and, for the studio, the
+# window system's plugins and the German words of the toolkit's own dialogs.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libgsf-1-114")
 if(TARGET zentlor-studio)
-  # Loaded at run time, so no library dependency tells of them: the window system's plugins, and the German words of
-  # the toolkit's own dialogs.
-  set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, qt6-translations-l10n")
+  string(APPEND CPACK_DEBIAN_PACKAGE_DEPENDS ", qt6-qpa-plugins, qt6-translations-l10n")
 endif()
 include(CPack)

@@ -1,25 +1,16 @@
 // Compound files through libgsf. Its lists are walked from their start at each call, so the names of a storage are
 // asked for once and kept with their numbers.
 
-#include <gsf/gsf-infile-msole.h>
-#include <gsf/gsf-input-memory.h>
-
 #include <unordered_map>
 
 #include "core/utilities/encoding.h"
 #include "readers/compound_layout.h"
 #include "readers/container.h"
+#include "readers/folded_name.h"
 #include "readers/gsf_library.h"
-#include "readers/sentences.h"
 
 namespace zentlor::readers {
 namespace {
-
-Text Folded(TextView name) {
-    Text folded(name);
-    for (char16_t& c : folded) c = FoldCase(c);
-    return folded;
-}
 
 // Who asks for one stream of a storage does not pay for the names of all.
 constexpr int kLookupsWithoutIndex = 8;
@@ -34,7 +25,7 @@ class GsfStorage final : public Storage {
     std::unique_ptr<Storage> OpenStorage(TextView name) const override {
         GsfPointer<GsfInput> child = OpenChild(name);
         if (!child || !IsStorage(child.get())) return nullptr;
-        return std::make_unique<GsfStorage>(GsfPointer<GsfInfile>(GSF_INFILE(child.release())));
+        return std::make_unique<GsfStorage>(GsfPointer<GsfInfile>(AsGsfInfile(child.release())));
     }
 
     std::optional<std::string> ReadStream(TextView name, std::uint64_t maximum, bool* damaged) const override {
@@ -45,27 +36,28 @@ class GsfStorage final : public Storage {
 
   private:
     static bool IsStorage(GsfInput* child) {
-        return GSF_IS_INFILE(child) && gsf_infile_num_children(GSF_INFILE(child)) >= 0;
+        GsfInfile* infile = AsGsfInfile(child);
+        return infile != nullptr && Gsf().gsf_infile_num_children(infile) >= 0;
     }
 
     GsfPointer<GsfInput> OpenChild(TextView name) const {
         if (lookups_ < kLookupsWithoutIndex) {
             ++lookups_;
             // Finds a name in the case in which it is asked for, as nearly all are written.
-            GsfPointer<GsfInput> child(gsf_infile_child_by_name(infile_.get(), ToUtf8(name).c_str()));
+            GsfPointer<GsfInput> child(Gsf().gsf_infile_child_by_name(infile_.get(), ToUtf8(name).c_str()));
             if (child) return child;
         }
         KnowNames();
         const auto found = indexes_.find(Folded(name));
         if (found == indexes_.end()) return nullptr;
-        return GsfPointer<GsfInput>(gsf_infile_child_by_index(infile_.get(), found->second));
+        return GsfPointer<GsfInput>(Gsf().gsf_infile_child_by_index(infile_.get(), found->second));
     }
 
     void KnowNames() const {
         if (!names_.empty()) return;
-        const int count = gsf_infile_num_children(infile_.get());
+        const int count = Gsf().gsf_infile_num_children(infile_.get());
         for (int i = 0; i < count; ++i) {
-            const char* name = gsf_infile_name_by_index(infile_.get(), i);
+            const char* name = Gsf().gsf_infile_name_by_index(infile_.get(), i);
             names_.push_back(FromUtf8(name == nullptr ? "" : name));
             indexes_.emplace(Folded(names_.back()), i);
         }
@@ -75,7 +67,7 @@ class GsfStorage final : public Storage {
         KnowNames();
         std::vector<Text> names;
         for (std::size_t i = 0; i < names_.size(); ++i) {
-            const GsfPointer<GsfInput> child(gsf_infile_child_by_index(infile_.get(), static_cast<int>(i)));
+            const GsfPointer<GsfInput> child(Gsf().gsf_infile_child_by_index(infile_.get(), static_cast<int>(i)));
             if (child && IsStorage(child.get()) == storages) names.push_back(names_[i]);
         }
         return names;
@@ -97,10 +89,9 @@ std::unique_ptr<Storage> OpenCompoundFile(std::string_view bytes, const std::str
     if (!layout.sound) return nullptr;
     RequireFewEntries(layout.directoryEntries, path, limits);
     if (layout.tooDeep) return nullptr;
-    StartGsf();
-    const GsfPointer<GsfInput> input(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),
-                                                          static_cast<gsf_off_t>(bytes.size()), FALSE));
-    GsfPointer<GsfInfile> infile(gsf_infile_msole_new(input.get(), nullptr));
+    LoadGsf(path);
+    const GsfPointer<GsfInput> input = GsfInputOf(bytes);
+    GsfPointer<GsfInfile> infile(Gsf().gsf_infile_msole_new(input.get(), nullptr));
     if (!infile) return nullptr;
     return std::make_unique<GsfStorage>(std::move(infile));
 }

@@ -1,8 +1,5 @@
 // The parts of a zip through libgsf, which sees a zip as a tree of folders.
 
-#include <gsf/gsf-infile-zip.h>
-#include <gsf/gsf-input-memory.h>
-
 #include "readers/container.h"
 #include "readers/gsf_library.h"
 #include "readers/sentences.h"
@@ -32,10 +29,10 @@ class GsfZip final : public ZipArchive {
         while (true) {
             const std::size_t slash = name.find('/');
             const std::string step(name.substr(0, slash));
-            GsfInfile* folder = found ? GSF_INFILE(found.get()) : infile_.get();
-            found.reset(gsf_infile_child_by_name(folder, step.c_str()));
+            GsfInfile* folder = found ? AsGsfInfile(found.get()) : infile_.get();
+            if (folder == nullptr) return nullptr;
+            found.reset(Gsf().gsf_infile_child_by_name(folder, step.c_str()));
             if (!found || slash == std::string_view::npos) return found;
-            if (!GSF_IS_INFILE(found.get())) return nullptr;
             name.remove_prefix(slash + 1);
         }
     }
@@ -45,11 +42,11 @@ class GsfZip final : public ZipArchive {
 };
 
 // Null if the library refuses it.
-std::unique_ptr<ZipArchive> OpenByDirectory(std::string_view bytes, std::vector<ZipPart> parts) {
-    StartGsf();
-    const GsfPointer<GsfInput> input(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),
-                                                          static_cast<gsf_off_t>(bytes.size()), FALSE));
-    GsfPointer<GsfInfile> infile(gsf_infile_zip_new(input.get(), nullptr));
+std::unique_ptr<ZipArchive> OpenByDirectory(std::string_view bytes, const std::string& path,
+                                            std::vector<ZipPart> parts) {
+    LoadGsf(path);
+    const GsfPointer<GsfInput> input = GsfInputOf(bytes);
+    GsfPointer<GsfInfile> infile(Gsf().gsf_infile_zip_new(input.get(), nullptr));
     if (!infile) return nullptr;
     return std::make_unique<GsfZip>(std::move(infile), std::move(parts));
 }
@@ -62,7 +59,7 @@ std::unique_ptr<ZipArchive> OpenZip(std::string_view bytes, const std::string& p
     ZipDirectory directory = ReadZipDirectory(bytes, limits.zipParts);
     bool tooManyParts = directory.tooManyParts;
     std::unique_ptr<ZipArchive> zip;
-    if (directory.sound) zip = OpenByDirectory(bytes, std::move(directory.parts));
+    if (directory.sound) zip = OpenByDirectory(bytes, path, std::move(directory.parts));
     if (!zip && !tooManyParts) {
         zip = SalvageZip(bytes, limits.zipParts, tooManyParts);
         if (salvaged != nullptr) *salvaged = zip != nullptr;
