@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <iterator>
 
 #include "cli/words.h"
@@ -17,6 +18,14 @@ const workspace::ModuleOrigin* OriginOf(const Hint& hint, const workspace::Opene
     return hint.component < 0 ? nullptr : &project.origins[static_cast<std::size_t>(hint.component)];
 }
 
+// A million hints are a hundred megabytes of text. Room for all of it is taken at once, since text that grows by
+// doubling is there twice while it moves; what is never written costs nothing.
+void MakeRoom(std::size_t hints, std::string& text) {
+    constexpr std::size_t kUsualLine = 256;
+    const std::size_t wanted = text.size() + hints * kUsualLine;
+    if (wanted > text.capacity()) text.reserve(std::max(wanted, 2 * text.capacity()));
+}
+
 // For people: one line a hint, a blank line between two modules, and the status texts at the end.
 class TextReport : public Report {
   public:
@@ -24,6 +33,7 @@ class TextReport : public Report {
         : bold_(colour ? "\033[1m" : ""), dim_(colour ? "\033[2m" : ""), off_(colour ? "\033[0m" : "") {}
 
     void AddProject(Session& session, const workspace::OpenedProject& project) override {
+        MakeRoom(session.lvwErgebnis.Count(), text_);
         for (const Hint& hint : session.lvwErgebnis.Emitted()) {
             const workspace::ModuleOrigin* origin = OriginOf(hint, project);
             if (origin != lastOrigin_ && !text_.empty()) text_ += '\n';
@@ -46,7 +56,8 @@ class TextReport : public Report {
 
     std::string Finish(Session& session, const workspace::Workspace& opened) override {
         if (!text_.empty()) text_ += '\n';
-        return text_ + status_ + ReadSummary(opened, session.udtOptionen.AllgSprache) + "\n";
+        text_ += status_ + ReadSummary(opened, session.udtOptionen.AllgSprache) + "\n";
+        return std::move(text_);
     }
 
   private:
@@ -63,6 +74,7 @@ class TextReport : public Report {
 class JsonReport : public Report {
   public:
     void AddProject(Session& session, const workspace::OpenedProject& project) override {
+        MakeRoom(session.lvwErgebnis.Count(), lines_);
         for (const Hint& hint : session.lvwErgebnis.Emitted()) AddHint(hint, project);
     }
     void AddStatus(const std::string&, const std::string&) override {}
