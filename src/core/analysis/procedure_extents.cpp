@@ -14,10 +14,18 @@ bool IsSpace(char16_t c) {
     return c == u' ' || c == u'\t';
 }
 
+// Outside of ASCII everything is part of a name: the code pages of the editor know letters that others do not.
+bool IsNameCharacter(char16_t c) {
+    return c >= 0x80 || IsWordCharacter(c);
+}
+
 // Takes words off the front of a statement. A continuation between two words is a blank like others.
 class StatementReader {
   public:
     explicit StatementReader(TextView statement) : rest_(statement) { SkipSpace(); }
+
+    /// 0 if nothing is left.
+    char16_t PeekCharacter() const { return rest_.empty() ? u'\0' : rest_.front(); }
 
     TextView PeekWord() const {
         std::size_t length = 0;
@@ -34,9 +42,7 @@ class StatementReader {
 
     TextView TakeName() {
         if (rest_.starts_with(u'[')) return rest_.substr(1, std::min(rest_.find(u']'), rest_.size()) - 1);
-        // Outside of ASCII everything is part of a name: the code pages of the editor know letters that others do not.
-        const auto end =
-            std::find_if_not(rest_.begin(), rest_.end(), [](char16_t c) { return c >= 0x80 || IsWordCharacter(c); });
+        const auto end = std::find_if_not(rest_.begin(), rest_.end(), IsNameCharacter);
         return rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
     }
 
@@ -95,11 +101,12 @@ bool IsProcedureEnd(TextView statement) {
     return reader.Take(u"End") && (reader.Take(u"Sub") || reader.Take(u"Function") || reader.Take(u"Property"));
 }
 
-// The first character of a line that is no blank, 0 if there is none.
+// The first character of a logical line that is no blank and no continuation, 0 if there is none.
 char16_t FirstCharacter(TextView line) {
-    std::size_t first = SkipSpaces(line, 0);
-    while (first < line.size() && IsSpace(line[first])) ++first;
-    return first == line.size() ? u'\0' : line[first];
+    const std::size_t first = SkipSpaces(line, 0);
+    if (first == line.size()) return u'\0';
+    const bool isPlain = line[first] != u'\t' && line[first] != u'_';
+    return isPlain ? line[first] : StatementReader(line).PeekCharacter();
 }
 
 bool IsCommentLine(TextView line, char16_t first) {
@@ -116,24 +123,83 @@ bool MayEndProcedure(char16_t first) {
     return FoldCase(first) == u'e' || (first >= u'0' && first <= u'9');
 }
 
-// Walks the statements of one logical line; colons in strings separate nothing, and a comment ends the line.
-template <class Visit>
-void ForEachStatementOf(TextView line, Visit visit) {
-    std::size_t begin = 0;
-    bool quoted = false;
-    for (std::size_t i = 0;; ++i) {
-        i = quoted ? FindAny(line, i, u'"') : FindAny(line, i, u'"', u':', u'\'');
-        if (i == line.size()) break;
-        if (line[i] == u'"') {
-            quoted = !quoted;
-            continue;
+// Cuts a logical line into its statements. Colons in strings and in bracketed names separate nothing, and a comment
+// ends the line, be it "'" or a "Rem" where a statement may begin.
+class StatementCutter {
+  public:
+    explicit StatementCutter(TextView line) : line_(line) {}
+
+    /// False behind the last statement.
+    bool Next(TextView& statement) {
+        if (begin_ > line_.size()) return false;
+        std::size_t end = begin_;
+        bool mayBegin = true;  // whether a statement may begin here
+        while (end < line_.size() && line_[end] != u':' && line_[end] != u'\'') {
+            const std::size_t piece = end;
+            end = EndOfPiece(piece);
+            const TextView word = line_.substr(piece, end - piece);
+            if (mayBegin && EqualIgnoringCase(word, u"Rem")) {
+                end = piece;
+                break;
+            }
+            if (!IsBetweenWords(word)) mayBegin = GoesBeforeStatement(word, piece);
         }
-        visit(line.substr(begin, i - begin));
-        if (line[i] == u'\'') return;
-        begin = i + 1;
+        statement = line_.substr(begin_, end - begin_);
+        const bool goesOn = end < line_.size() && line_[end] == u':';
+        begin_ = goesOn ? end + 1 : line_.size() + 1;
+        return true;
     }
-    visit(line.substr(begin));
-}
+
+  private:
+    // Blanks, line ends and the marks of continuation.
+    static bool IsBetweenWords(TextView piece) {
+        return piece == u"_" || IsSpace(piece.front()) || piece.front() == u'\n';
+    }
+
+    bool GoesBeforeStatement(TextView word, std::size_t at) const {
+        if (at > 0 && (line_[at - 1] == u'.' || line_[at - 1] == u'!')) return false;
+        const bool isNumber = word.find_first_not_of(u"0123456789") == TextView::npos;
+        return isNumber || EqualIgnoringCase(word, u"Then") || EqualIgnoringCase(word, u"Else");
+    }
+
+    // Behind the string, the bracketed name, the word or the single character that begins at `at`.
+    std::size_t EndOfPiece(std::size_t at) {
+        std::size_t end = at + 1;
+        if (line_[at] == u'"') {
+            end = FindAny(line_, end, u'"', u'\n');
+            return std::min(end + 1, line_.size());
+        }
+        if (line_[at] == u'[') return EndOfBrackets(at);
+        if (!IsNameCharacter(line_[at])) return end;
+        while (end < line_.size() && IsNameCharacter(line_[end])) ++end;
+        return end;
+    }
+
+    // Brackets may hold brackets. Where they don't come in pairs the first "]" ends the name; without any, "[" opens
+    // none.
+    std::size_t EndOfBrackets(std::size_t open) {
+        if (open < unclosedUntil_) return open + 1;
+        const std::size_t first = FindAny(line_, open, u']', u'\n');
+        if (first == line_.size() || line_[first] == u'\n') {
+            unclosedUntil_ = first;
+            return open + 1;
+        }
+        if (open < unpairedUntil_) return first + 1;
+        std::size_t i = open;
+        for (int depth = 0; i < line_.size() && line_[i] != u'\n'; ++i) {
+            if (line_[i] == u'[') ++depth;
+            if (line_[i] == u']' && --depth == 0) return i + 1;
+        }
+        unpairedUntil_ = i;
+        return first + 1;
+    }
+
+    TextView line_;
+    std::size_t begin_ = 0;
+    // What a search has told of the rest of a physical line, so that none is searched twice: no "]", none that fits.
+    std::size_t unclosedUntil_ = 0;
+    std::size_t unpairedUntil_ = 0;
+};
 
 // The state of the walk over a module's lines, and its result.
 class ExtentFinder {
@@ -167,13 +233,12 @@ class ExtentFinder {
         const bool bounds = open_ ? MayEndProcedure(firstCharacter) || HoldsColon(line) : MayBeHeader(firstCharacter);
         if (bounds) {
             bool startsLine = true;
-            ForEachStatementOf(line, [&](TextView statement) {
+            StatementCutter cutter(line);
+            for (TextView statement; cutter.Next(statement); startsLine = false) {
                 VisitStatement(first, last, statement, startsLine);
-                startsLine = false;
-            });
+            }
         }
-        const bool declares = first != last || firstCharacter != u'\0';
-        if (result_.procedures.empty() && declares) result_.declarationLines = last;
+        if (result_.procedures.empty() && firstCharacter != u'\0') result_.declarationLines = last;
     }
 
     // Lines are asked for from top to bottom.
