@@ -5,6 +5,11 @@
 #include "studio/command_line.h"
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
+    if (zentlor::studio::OnlyAsks(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        zentlor::studio::Answer(application);
+        return 0;
+    }
+    const QApplication application(argc, argv);
     return zentlor::studio::RunStudio(application);
 }

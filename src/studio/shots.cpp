@@ -83,6 +83,9 @@ class Photographer {
         Save("08-dark");
         Expect("09-dark-options");
         Click(6);
+        Expect("14-dark-about");
+        Click(8);
+        TakeHelp("15-dark-help");
         QApplication::setPalette(QPalette());
         TakeEnglish();
         return TakeGate() && saved_;
@@ -141,10 +144,14 @@ class Photographer {
         Click(6);
         Expect("05-about-" + language.toStdString());
         Click(8);
+        TakeHelp("06-help");
+    }
+
+    void TakeHelp(const char* name) {
         Click(9);
         studio_.Help().Contents().setCurrentRow(5);
         Settle();
-        SavePicture("06-help", studio_.Help().grab());
+        SavePicture(name, studio_.Help().grab());
         studio_.Help().close();
     }
 
