@@ -115,8 +115,8 @@ void AddFormLayouts(const Storage& root, int codePage, std::uint64_t fileBytes, 
     document.layouts = reader.Take();
     if (!reader.Incomplete()) return;
     document.problems.push_back(MakeSentence(
-        "\"[%1]\" nennt mehr Formulare und Steuerelemente, als eine Datenbank haben kann; gelesen wurden die ersten.",
-        "\"[%1]\" names more forms and controls than a database can have; the first of them were read.",
+        "„[%1]“ nennt mehr Formulare und Steuerelemente, als eine Datenbank haben kann; gelesen wurden die ersten.",
+        "“[%1]” names more forms and controls than a database can have; the first of them were read.",
         {document.path}));
 }
 

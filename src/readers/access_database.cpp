@@ -76,10 +76,10 @@ class DatabaseReader {
     void RefusePassword() const {
         if (!file_.NeedsPassword()) return;
         Fail(ReadFailure::Encrypted,
-             "\"[%1]\" ist mit einem Datenbankkennwort verschlüsselt; das Kennwort in Access entfernen (Datei, "
+             "„[%1]“ ist mit einem Datenbankkennwort verschlüsselt; das Kennwort in Access entfernen (Datei, "
              "Datenbank "
              "entschlüsseln) und erneut prüfen.",
-             "\"[%1]\" is encrypted with a database password; remove the password in Access (File, Decrypt Database) "
+             "“[%1]” is encrypted with a database password; remove the password in Access (File, Decrypt Database) "
              "and "
              "check again.",
              {path_});
@@ -87,9 +87,9 @@ class DatabaseReader {
 
     [[noreturn]] void FailDamaged() const {
         Fail(ReadFailure::Damaged,
-             "Die Datenbank \"[%1]\" ist abgeschnitten oder beschädigt und gibt keinen VBA-Code her; in Access "
+             "Die Datenbank „[%1]“ ist abgeschnitten oder beschädigt und gibt keinen VBA-Code her; in Access "
              "komprimieren und reparieren oder aus einer Sicherung holen.",
-             "The database \"[%1]\" is truncated or damaged and gives no VBA code; compact and repair it in Access or "
+             "The database “[%1]” is truncated or damaged and gives no VBA code; compact and repair it in Access or "
              "take it from a backup.",
              {path_});
     }
@@ -124,20 +124,19 @@ class DatabaseReader {
     void ReportMissingSource(const JetCatalog& catalog, std::size_t compiledOnly) {
         if (compiledOnly > 0 && !document_.modules.empty()) {
             Report(
-                "Aus [%2] Modulen in \"[%1]\" wurde der Quelltext entfernt, sie sind nur kompiliert da; die Datenbank "
-                "prüfen, aus der diese entstand.",
-                "The source of [%2] modules in \"[%1]\" was removed, only compiled code is left; check the database "
-                "that this one was made from.",
+                "Module ohne Quelltext in „[%1]“: [%2]; sie sind nur kompiliert da, die Datei mit dem Quelltext "
+                "prüfen.",
+                "Modules without source in “[%1]”: [%2]; only their compiled code is left, check the file that has the "
+                "source.",
                 {path_, std::to_string(compiledOnly)});
         }
         if (!document_.modules.empty() || (compiledOnly == 0 && !catalog.IsMarkedCompiledOnly())) return;
-        Fail(
-            ReadFailure::CompiledOnly,
-            "\"[%1]\" enthält nur kompilierten Code ohne Quelltext (.mde, .accde); die Datenbank prüfen, aus der diese "
-            "entstand.",
-            "\"[%1]\" holds compiled code only, without source (.mde, .accde); check the database that it was made "
-            "from.",
-            {path_});
+        Fail(ReadFailure::CompiledOnly,
+             "„[%1]“ enthält nur kompilierten Code ohne Quelltext (.mde, .accde); die Datenbank prüfen, aus der diese "
+             "entstand.",
+             "“[%1]” holds compiled code only, without source (.mde, .accde); check the database that it was made "
+             "from.",
+             {path_});
     }
 
     void ReportDamage(const JetCatalog& catalog) {
@@ -146,20 +145,20 @@ class DatabaseReader {
         const bool nothing = document_.modules.empty() && document_.problems.empty();
         if (nothing && (damaged || damage.missingRows || catalog.ModuleCount() > 0)) FailDamaged();
         if (damage.missingPages) {
-            Report("\"[%1]\" ist abgeschnitten, es kann Code fehlen; die Datei aus einer Sicherung holen.",
-                   "\"[%1]\" is cut off, code may be missing; take the file from a backup.", {path_});
+            Report("„[%1]“ ist abgeschnitten, es kann Code fehlen; die Datei aus einer Sicherung holen.",
+                   "“[%1]” is cut off, code may be missing; take the file from a backup.", {path_});
         }
         if (damage.endlessChain) {
             Report(
-                "In \"[%1]\" führen Verweise im Kreis, es kann Code fehlen; die Datenbank in Access komprimieren und "
+                "In „[%1]“ führen Verweise im Kreis, es kann Code fehlen; die Datenbank in Access komprimieren und "
                 "reparieren.",
-                "References in \"[%1]\" lead in a circle, code may be missing; compact and repair the database in "
+                "References in “[%1]” lead in a circle, code may be missing; compact and repair the database in "
                 "Access.",
                 {path_});
         }
         if (damage.brokenRows && !damage.missingPages && !damage.endlessChain) {
-            Report("Die Datenbank \"[%1]\" ist beschädigt, es kann Code fehlen; in Access komprimieren und reparieren.",
-                   "The database \"[%1]\" is damaged, code may be missing; compact and repair it in Access.", {path_});
+            Report("Die Datenbank „[%1]“ ist beschädigt, es kann Code fehlen; in Access komprimieren und reparieren.",
+                   "The database “[%1]” is damaged, code may be missing; compact and repair it in Access.", {path_});
         }
     }
 
@@ -185,7 +184,7 @@ bool LooksLikeAccessDatabase(std::string_view bytes) {
 
 Document ReadAccessDatabase(std::string_view bytes, const std::string& path, const Limits& limits) {
     if (!JetFile::Recognises(bytes)) {
-        Fail(ReadFailure::NotADocument, "\"[%1]\" ist keine Access-Datenbank.", "\"[%1]\" is not an Access database.",
+        Fail(ReadFailure::NotADocument, "„[%1]“ ist keine Access-Datenbank.", "“[%1]” is not an Access database.",
              {path});
     }
     return DatabaseReader(bytes, path, limits).Read();

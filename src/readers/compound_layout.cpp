@@ -167,8 +167,8 @@ CompoundLayout MeasureCompoundFile(std::string_view bytes) {
 void RequireFewEntries(std::uint64_t entries, const std::string& path, const Limits& limits) {
     if (entries <= limits.storageEntries) return;
     Fail(ReadFailure::Limit,
-         "\"[%1]\" enthält mehr als [%2] Speicher und Datenströme; --max-storage-entries hebt die Grenze an.",
-         "\"[%1]\" holds more than [%2] storages and streams; --max-storage-entries raises the limit.",
+         "„[%1]“ enthält mehr als [%2] Speicher und Datenströme; --max-storage-entries hebt die Grenze an.",
+         "“[%1]” holds more than [%2] storages and streams; --max-storage-entries raises the limit.",
          {path, std::to_string(limits.storageEntries)});
 }
 

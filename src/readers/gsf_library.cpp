@@ -81,8 +81,8 @@ const GsfLibrary& LoadGsf(const std::string& path) {
     static const Loaded loaded;
     if (loaded.error.empty()) return library;
     Fail(ReadFailure::Unsupported,
-         "\"[%1]\" ist ohne die Bibliothek libgsf nicht lesbar ([%2]); das Paket libgsf-1-114 installieren.",
-         "\"[%1]\" cannot be read without the library libgsf ([%2]); install the package libgsf-1-114.",
+         "„[%1]“ ist ohne die Bibliothek libgsf nicht lesbar ([%2]); das Paket libgsf-1-114 installieren.",
+         "“[%1]” cannot be read without the library libgsf ([%2]); install the package libgsf-1-114.",
          {path, loaded.error});
 }
 

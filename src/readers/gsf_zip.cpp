@@ -65,8 +65,8 @@ std::unique_ptr<ZipArchive> OpenZip(std::string_view bytes, const std::string& p
         if (salvaged != nullptr) *salvaged = zip != nullptr;
     }
     if (tooManyParts) {
-        Fail(ReadFailure::Limit, "\"[%1]\" enthält mehr als [%2] Teile; --max-zip-parts hebt die Grenze an.",
-             "\"[%1]\" holds more than [%2] parts; --max-zip-parts raises the limit.",
+        Fail(ReadFailure::Limit, "„[%1]“ enthält mehr als [%2] Teile; --max-zip-parts hebt die Grenze an.",
+             "“[%1]” holds more than [%2] parts; --max-zip-parts raises the limit.",
              {path, std::to_string(limits.zipParts)});
     }
     return zip;

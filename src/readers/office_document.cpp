@@ -62,14 +62,14 @@ class DocumentReader {
   private:
     [[noreturn]] void RefuseKind() const {
         Fail(ReadFailure::NotADocument,
-             "\"[%1]\" ist keine Office-Datei; gelesen werden Word-, Excel-, PowerPoint- und Visio-Dateien.",
-             "\"[%1]\" is no Office file; Word, Excel, PowerPoint and Visio files are read.", {path_});
+             "„[%1]“ ist keine Office-Datei; gelesen werden Word-, Excel-, PowerPoint- und Visio-Dateien.",
+             "“[%1]” is no Office file; Word, Excel, PowerPoint and Visio files are read.", {path_});
     }
 
     [[noreturn]] void RefuseDamaged() const {
         Fail(ReadFailure::Damaged,
-             "\"[%1]\" ist beschädigt oder abgeschnitten; die Datei aus einer Sicherung holen oder neu übertragen.",
-             "\"[%1]\" is damaged or cut off; take the file from a backup or transfer it anew.", {path_});
+             "„[%1]“ ist beschädigt oder abgeschnitten; die Datei aus einer Sicherung holen oder neu übertragen.",
+             "“[%1]” is damaged or cut off; take the file from a backup or transfer it anew.", {path_});
     }
 
     void ReadZip() {
@@ -84,9 +84,9 @@ class DocumentReader {
         if (!ReadProjectOfZip(*zip) && (damagedPart_ || salvaged)) RefuseDamaged();
         if (!salvaged) return;
         document_.problems.push_back(MakeSentence(
-            "\"[%1]\" ist beschädigt: das Verzeichnis am Ende der Datei fehlt oder ist falsch; was lesbar war, wurde "
+            "„[%1]“ ist beschädigt: das Verzeichnis am Ende der Datei fehlt oder ist falsch; was lesbar war, wurde "
             "gelesen; die Datei neu übertragen.",
-            "\"[%1]\" is damaged: the directory at the end of the file is missing or wrong; what was readable was "
+            "“[%1]” is damaged: the directory at the end of the file is missing or wrong; what was readable was "
             "read; "
             "transfer the file anew.",
             {path_}));
@@ -146,8 +146,8 @@ class DocumentReader {
     }
 
     [[noreturn]] void RefuseUnpacked(const std::string& part, bool byRatio) const {
-        Fail(ReadFailure::Limit, "\"[%1]\" im Dokument \"[%2]\" wird ausgepackt zu groß; [%3] hebt die Grenze an.",
-             "\"[%1]\" in the document \"[%2]\" unpacks to too many bytes; [%3] raises the limit.",
+        Fail(ReadFailure::Limit, "„[%1]“ im Dokument „[%2]“ wird ausgepackt zu groß; [%3] hebt die Grenze an.",
+             "“[%1]” in the document “[%2]” unpacks to too many bytes; [%3] raises the limit.",
              {part, path_, byRatio ? "--max-zip-ratio" : "--max-zip-part-size"});
     }
 
@@ -170,9 +170,8 @@ class DocumentReader {
     void RefuseEncrypted(const Storage& root) const {
         if (!root.ReadStream(u"EncryptedPackage", 1)) return;
         Fail(ReadFailure::Encrypted,
-             "\"[%1]\" ist mit einem Kennwort verschlüsselt; im Ursprungsprogramm öffnen und ohne Kennwort speichern.",
-             "\"[%1]\" is encrypted with a password; open it in its program and save it without the password.",
-             {path_});
+             "„[%1]“ ist mit einem Kennwort verschlüsselt; im Ursprungsprogramm öffnen und ohne Kennwort speichern.",
+             "“[%1]” is encrypted with a password; open it in its program and save it without the password.", {path_});
     }
 
     void ReadApplication(const Storage& root) {
@@ -211,8 +210,8 @@ class DocumentReader {
         FoundProject found = FindOvbaProject(root, limits_.storageDepth);
         if (!found.root && found.tooDeep) {
             Fail(ReadFailure::Limit,
-                 "\"[%1]\" schachtelt Speicher tiefer als [%2]; --max-storage-depth hebt die Grenze an.",
-                 "\"[%1]\" nests storages deeper than [%2]; --max-storage-depth raises the limit.",
+                 "„[%1]“ schachtelt Speicher tiefer als [%2]; --max-storage-depth hebt die Grenze an.",
+                 "“[%1]” nests storages deeper than [%2]; --max-storage-depth raises the limit.",
                  {path_, std::to_string(limits_.storageDepth)});
         }
         return std::move(found.root);
@@ -222,16 +221,18 @@ class DocumentReader {
         OvbaProject project = ReadOvbaProject(root, path_, limits_);
         if (project.modules.empty() && project.compiledOnly > 0) {
             Fail(ReadFailure::CompiledOnly,
-                 "\"[%1]\" enthält nur kompilierten Code, der Quelltext wurde entfernt; die Datei mit dem Quelltext "
+                 "„[%1]“ enthält nur kompilierten Code, der Quelltext wurde entfernt; die Datei mit dem Quelltext "
                  "prüfen.",
-                 "\"[%1]\" holds compiled code only, its source was removed; check the file that has the source.",
+                 "“[%1]” holds compiled code only, its source was removed; check the file that has the source.",
                  {path_});
         }
         if (project.compiledOnly > 0) {
-            project.problems.push_back(MakeSentence(
-                "[%1] Module in \"[%2]\" enthalten nur kompilierten Code; die Datei mit dem Quelltext prüfen.",
-                "[%1] modules in \"[%2]\" hold compiled code only; check the file that has the source.",
-                {std::to_string(project.compiledOnly), path_}));
+            project.problems.push_back(
+                MakeSentence("Module ohne Quelltext in „[%1]“: [%2]; sie sind nur kompiliert da, die Datei mit dem "
+                             "Quelltext prüfen.",
+                             "Modules without source in “[%1]”: [%2]; only their compiled code is left, check the file "
+                             "that has the source.",
+                             {path_, std::to_string(project.compiledOnly)}));
         }
         if (!project.name.empty()) document_.projectName = std::move(project.name);
         document_.codePage = project.codePage;
@@ -243,8 +244,8 @@ class DocumentReader {
 
     void ReportIncomplete() {
         document_.problems.push_back(MakeSentence(
-            "\"[%1]\" ist beschädigt oder abgeschnitten, gelesen wurde, was da ist; die Datei neu übertragen.",
-            "\"[%1]\" is damaged or cut off, what is there was read; transfer the file anew.", {path_}));
+            "„[%1]“ ist beschädigt oder abgeschnitten, gelesen wurde, was da ist; die Datei neu übertragen.",
+            "“[%1]” is damaged or cut off, what is there was read; transfer the file anew.", {path_}));
     }
 
     std::string_view bytes_;

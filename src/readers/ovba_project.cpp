@@ -78,24 +78,22 @@ class ProjectReader {
         const Decompressed bytes = DecompressContainer(source_.dir, kMaximumDirBytes);
         OvbaDir dir = ParseOvbaDir(bytes.bytes, limits_.modules);
         if (dir.modules.empty() && (bytes.end != DecompressEnd::Complete || dir.truncated)) {
-            Fail(
-                ReadFailure::Damaged,
-                "Die Modulliste des VBA-Projekts in \"[%1]\" ist beschädigt; die Datei aus einer Sicherung holen oder "
-                "im Ursprungsprogramm neu speichern.",
-                "The list of modules of the VBA project in \"[%1]\" is damaged; take the file from a backup or save it "
-                "anew in its program.",
-                {path_});
+            Fail(ReadFailure::Damaged,
+                 "Die Modulliste des VBA-Projekts in „[%1]“ ist beschädigt; die Datei aus einer Sicherung holen oder "
+                 "im Ursprungsprogramm neu speichern.",
+                 "The list of modules of the VBA project in “[%1]” is damaged; take the file from a backup or save it "
+                 "anew in its program.",
+                 {path_});
         }
         if (dir.tooManyModules) {
-            Report(
-                "\"[%1]\" enthält mehr als [%2] Module, gelesen wurden die ersten; --max-modules hebt die Grenze an.",
-                "\"[%1]\" holds more than [%2] modules, the first of them were read; --max-modules raises the limit.",
-                {path_, std::to_string(limits_.modules)});
+            Report("„[%1]“ enthält mehr als [%2] Module, gelesen wurden die ersten; --max-modules hebt die Grenze an.",
+                   "“[%1]” holds more than [%2] modules, the first of them were read; --max-modules raises the limit.",
+                   {path_, std::to_string(limits_.modules)});
         } else if (bytes.end != DecompressEnd::Complete || dir.truncated) {
             Report(
-                "Die Modulliste des VBA-Projekts in \"[%1]\" bricht ab, es können Module fehlen; die Datei aus einer "
+                "Die Modulliste des VBA-Projekts in „[%1]“ bricht ab, es können Module fehlen; die Datei aus einer "
                 "Sicherung holen.",
-                "The list of modules of the VBA project in \"[%1]\" breaks off, modules may be missing; take the file "
+                "The list of modules of the VBA project in “[%1]” breaks off, modules may be missing; take the file "
                 "from a backup.",
                 {path_});
         }
@@ -104,10 +102,9 @@ class ProjectReader {
 
     void CheckCodePage() {
         if (CodePageIsKnown(project_.codePage)) return;
-        Report(
-            "\"[%1]\" ist in der unbekannten Codepage [%2] geschrieben; Umlaute und Sonderzeichen können falsch sein.",
-            "\"[%1]\" is written in the unknown code page [%2]; letters beyond ASCII may be wrong.",
-            {path_, std::to_string(project_.codePage)});
+        Report("„[%1]“ ist in der unbekannten Codepage [%2] geschrieben; Umlaute und Sonderzeichen können falsch sein.",
+               "“[%1]” is written in the unknown code page [%2]; letters beyond ASCII may be wrong.",
+               {path_, std::to_string(project_.codePage)});
     }
 
     // False if a limit of the whole document was hit, so that no further module is read.
@@ -122,9 +119,9 @@ class ProjectReader {
         textBytes_ += text.bytes.size();
         if (textBytes_ > limits_.sourceBytes || streamBytes_ / kStreamToText > limits_.sourceBytes) {
             Report(
-                "Der Quelltext in \"[%1]\" ist länger als [%2], gelesen wurde der Anfang; --max-source-size hebt die "
+                "Der Quelltext in „[%1]“ ist länger als [%2], gelesen wurde der Anfang; --max-source-size hebt die "
                 "Grenze an.",
-                "The source in \"[%1]\" is longer than [%2], its beginning was read; --max-source-size raises the "
+                "The source in “[%1]” is longer than [%2], its beginning was read; --max-source-size raises the "
                 "limit.",
                 {path_, Mebibytes(limits_.sourceBytes)});
             return false;
@@ -187,10 +184,10 @@ class ProjectReader {
     }
 
     void ReportModule(const OvbaDirModule& module, std::string_view german, std::string_view english) {
-        project_.problems.push_back({"Der Quelltext des Moduls \"" + ToUtf8(module.name) + "\" in \"" + path_ + "\" " +
-                                         std::string(german) + "; die Datei aus einer Sicherung holen.",
-                                     "The source of module \"" + ToUtf8(module.name) + "\" in \"" + path_ + "\" " +
-                                         std::string(english) + "; take the file from a backup."});
+        Report("Der Quelltext des Moduls „[%1]“ in „[%2]“ " + std::string(german) +
+                   "; die Datei aus einer Sicherung holen.",
+               "The source of module “[%1]” in “[%2]” " + std::string(english) + "; take the file from a backup.",
+               {ToUtf8(module.name), path_});
     }
 
     void ReportEnd(const OvbaDirModule& module, DecompressEnd end) {
@@ -204,9 +201,9 @@ class ProjectReader {
                 break;
             case DecompressEnd::Limit:
                 Report(
-                    "Das Modul \"[%1]\" in \"[%2]\" ist länger als [%3], gelesen wurde der Anfang; --max-module-size "
+                    "Das Modul „[%1]“ in „[%2]“ ist länger als [%3], gelesen wurde der Anfang; --max-module-size "
                     "hebt die Grenze an.",
-                    "Module \"[%1]\" in \"[%2]\" is longer than [%3], its beginning was read; --max-module-size raises "
+                    "Module “[%1]” in “[%2]” is longer than [%3], its beginning was read; --max-module-size raises "
                     "the limit.",
                     {ToUtf8(module.name), path_, Mebibytes(limits_.moduleBytes)});
         }
@@ -215,9 +212,9 @@ class ProjectReader {
     void ReportUndecodable() {
         if (undecodable_ == 0) return;
         Report(
-            "[%1] Bytes in \"[%2]\" (zuerst im Modul \"[%3]\") haben in der Codepage [%4] keine Bedeutung; sie werden "
+            "[%1] Bytes in „[%2]“ (zuerst im Modul „[%3]“) haben in der Codepage [%4] keine Bedeutung; sie werden "
             "als Windows-1252 gezeigt.",
-            "[%1] bytes in \"[%2]\" (first in module \"[%3]\") mean nothing in code page [%4]; they are shown as "
+            "[%1] bytes in “[%2]” (first in module “[%3]”) mean nothing in code page [%4]; they are shown as "
             "Windows-1252.",
             {std::to_string(undecodable_), path_, ToUtf8(undecodableIn_), std::to_string(project_.codePage)});
     }

@@ -35,39 +35,39 @@ class OpenFile {
 
 [[noreturn]] void FailByErrno(const std::string& path, int error) {
     if (error == ENOENT || error == ENOTDIR) {
-        Fail(ReadFailure::NotFound, "\"[%1]\" gibt es nicht; den Pfad prüfen.",
-             "\"[%1]\" does not exist; check the path.", {path});
+        Fail(ReadFailure::NotFound, "„[%1]“ gibt es nicht; den Pfad prüfen.", "“[%1]” does not exist; check the path.",
+             {path});
     }
     if (error == EACCES || error == EPERM) {
-        Fail(ReadFailure::NoPermission, "\"[%1]\" darf nicht gelesen werden; die Zugriffsrechte prüfen.",
-             "\"[%1]\" may not be read; check its permissions.", {path});
+        Fail(ReadFailure::NoPermission, "„[%1]“ darf nicht gelesen werden; die Zugriffsrechte prüfen.",
+             "“[%1]” may not be read; check its permissions.", {path});
     }
-    Fail(ReadFailure::Damaged, "\"[%1]\" kann nicht gelesen werden ([%2]); den Datenträger prüfen.",
-         "\"[%1]\" cannot be read ([%2]); check the medium.", {path, std::strerror(error)});
+    Fail(ReadFailure::Damaged, "„[%1]“ kann nicht gelesen werden ([%2]); den Datenträger prüfen.",
+         "“[%1]” cannot be read ([%2]); check the medium.", {path, std::strerror(error)});
 }
 
 void RequireRegularFile(const std::string& path, const struct stat& status) {
     if (S_ISREG(status.st_mode)) return;
     Fail(ReadFailure::NotAFile,
-         "\"[%1]\" ist keine Datei, sondern ein Gerät, eine Pipe oder ein Ordner; eine Datei angeben.",
-         "\"[%1]\" is no file but a device, a pipe or a folder; name a file.", {path});
+         "„[%1]“ ist keine Datei, sondern ein Gerät, eine Pipe oder ein Ordner; eine Datei angeben.",
+         "“[%1]” is no file but a device, a pipe or a folder; name a file.", {path});
 }
 
 void RequireSize(const std::string& path, std::uint64_t size, const Limits& limits) {
     if (size <= limits.fileBytes) return;
-    Fail(ReadFailure::Limit, "\"[%1]\" ist größer als [%2] MiB; --max-file-size hebt die Grenze an.",
-         "\"[%1]\" is larger than [%2] MiB; --max-file-size raises the limit.",
+    Fail(ReadFailure::Limit, "„[%1]“ ist größer als [%2] MiB; --max-file-size hebt die Grenze an.",
+         "“[%1]” is larger than [%2] MiB; --max-file-size raises the limit.",
          {path, std::to_string(limits.fileBytes >> 20)});
 }
 
 // Lets the kernel hand out the memory that `bytes` has reserved in one call. To be interrupted at the first touch of
 // each page would take longer than reading the file does. Where the call is not known nothing changes.
 void TouchReserved(std::string& bytes) {
-    constexpr std::uintptr_t kPage = 4096;
-    const auto begin = reinterpret_cast<std::uintptr_t>(bytes.data());
-    const std::uintptr_t first = (begin + kPage - 1) & ~(kPage - 1), last = (begin + bytes.capacity()) & ~(kPage - 1);
 #ifdef MADV_POPULATE_WRITE
-    if (first < last) madvise(reinterpret_cast<void*>(first), last - first, MADV_POPULATE_WRITE);
+    constexpr std::size_t kPage = 4096;
+    const std::size_t skipped = -reinterpret_cast<std::uintptr_t>(bytes.data()) % kPage;
+    if (bytes.capacity() < skipped + kPage) return;
+    madvise(bytes.data() + skipped, (bytes.capacity() - skipped) / kPage * kPage, MADV_POPULATE_WRITE);
 #endif
 }
 
@@ -112,8 +112,8 @@ Document ReadDocument(std::string_view bytes, const std::string& path, const Lim
             break;
     }
     Fail(ReadFailure::NotADocument,
-         "\"[%1]\" ist weder eine Office- noch eine Access-Datei; ein Dokument oder exportierte Module angeben.",
-         "\"[%1]\" is neither an Office nor an Access file; name a document or exported modules.", {path});
+         "„[%1]“ ist weder eine Office- noch eine Access-Datei; ein Dokument oder exportierte Module angeben.",
+         "“[%1]” is neither an Office nor an Access file; name a document or exported modules.", {path});
 }
 
 Document ReadDocument(const std::string& path, const Limits& limits) {

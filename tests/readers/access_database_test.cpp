@@ -192,7 +192,7 @@ TEST(AccessDatabase, NamesModulesWithoutSource) {
     const JetDatabase database = WriteAccessStorage(WriteAccessTree(project), {});
     const Document document = ReadAccessDatabase(database.bytes, "Shop.mdb", {});
     EXPECT_EQ(document.modules.size(), 4u);
-    EXPECT_NE(Problems(document).find("1 modules"), std::string::npos) << Problems(document);
+    EXPECT_NE(Problems(document).find("“Shop.mdb”: 1;"), std::string::npos) << Problems(document);
 }
 
 // A later version that opened an Access 97 database leaves a copy of the project behind, which is older than what

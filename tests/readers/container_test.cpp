@@ -243,7 +243,7 @@ TEST(Zip, CountsPartsBeforeItUnpacksAny) {
             ADD_FAILURE() << "the limit was passed over";
         } catch (const ReadError& error) {
             EXPECT_EQ(error.failure, ReadFailure::Limit);
-            EXPECT_EQ(error.sentence.english, "\"x.xlsm\" holds more than 19 parts; --max-zip-parts raises the limit.");
+            EXPECT_EQ(error.sentence.english, "“x.xlsm” holds more than 19 parts; --max-zip-parts raises the limit.");
         }
     }
 }

@@ -74,10 +74,9 @@ TEST(OvbaProject, ReportsBytesThatDoNotDecodeAndKeepsThem) {
     project.codePage = 932;
     project.modules = {StandardModule(u"Gut", "'a\r\n"), StandardModule(u"Schlecht", "'\xFF\xFF\r\n")};
     const OvbaProject read = Read(project);
-    EXPECT_EQ(
-        Problems(read),
-        "2 bytes in \"Kasse.xls\" (first in module \"Schlecht\") mean nothing in code page 932; they are shown as "
-        "Windows-1252.\n");
+    EXPECT_EQ(Problems(read),
+              "2 bytes in “Kasse.xls” (first in module “Schlecht”) mean nothing in code page 932; they are shown as "
+              "Windows-1252.\n");
     EXPECT_EQ(ToUtf8(read.modules.at(1).code), "'ÿÿ\n");
 }
 
@@ -140,8 +139,7 @@ TEST(OvbaProject, TellsSourceThatWasRemovedFromSourceThatIsDamaged) {
         std::size_t compiledOnly;
         const char* problem;
     };
-    const char* unreadable =
-        "The source of module \"M\" in \"Kasse.xls\" cannot be read; take the file from a backup.\n";
+    const char* unreadable = "The source of module “M” in “Kasse.xls” cannot be read; take the file from a backup.\n";
     const Row rows[] = {
         {"nothing behind the cache", "compiled", "", 1, ""},
         {"zeros behind the cache", "compiled", std::string(50, '\0'), 1, ""},
@@ -176,8 +174,8 @@ TEST(OvbaProject, DamageCostsTheModuleAndNoMore) {
     EXPECT_EQ(ToUtf8(read.modules[0].code.substr(0, 6)), "Dim a\n");
     EXPECT_EQ(ToUtf8(read.modules[1].code), "Dim b\n");
     EXPECT_EQ(Problems(read),
-              "The source of module \"Weg\" in \"Kasse.xls\" is missing; take the file from a backup.\n"
-              "The source of module \"Halb\" in \"Kasse.xls\" is damaged, its beginning was read; take the file from a "
+              "The source of module “Weg” in “Kasse.xls” is missing; take the file from a backup.\n"
+              "The source of module “Halb” in “Kasse.xls” is damaged, its beginning was read; take the file from a "
               "backup.\n");
 }
 
