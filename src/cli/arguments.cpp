@@ -81,9 +81,11 @@ class CommandLine {
                 ->group(kGroup);
         };
         size("--max-file-size", limits.fileBytes, "size of a file");
-        size("--max-zip-part-size", limits.zipPartBytes, "unpacked size of one part of a zip");
+        size("--max-zip-part-size", limits.zipPartBytes,
+             "unpacked size of one part of a zip; by default not over 16 MB and four times the file");
         size("--max-module-size", limits.moduleBytes, "text of one module");
-        size("--max-source-size", limits.sourceBytes, "text of all modules of one document");
+        size("--max-source-size", limits.sourceBytes,
+             "text of all modules of one document; by default not over 4 MB and twice the file");
         const auto count = [&](const char* option, auto& value, const char* what) {
             sub->add_option(option, value, what)->capture_default_str()->group(kGroup);
         };
