@@ -89,7 +89,8 @@ void HintList::keyPressEvent(QKeyEvent* event) {
     } else if (sorts) {
         Q_EMIT SortWanted(column);
     } else if (enter) {
-        if (SelectedRow() >= 0) Q_EMIT JumpWanted(SelectedRow());
+        // Also the row that a list has for its current one when it gets the focus, although nobody selected it yet.
+        if (currentIndex().isValid()) Q_EMIT JumpWanted(currentIndex().row());
     } else {
         QTreeView::keyPressEvent(event);
     }

@@ -17,7 +17,7 @@ QColor FromBlueGreenRed(int colour) {
 QColor LinkColour(int colour, const QPalette& palette) {
     const QColor plain = FromBlueGreenRed(colour);
     const bool dark = palette.color(QPalette::Window).lightness() < 128;
-    return dark ? QColor::fromHsl(plain.hslHue(), 255, 185) : plain;
+    return dark ? QColor::fromHsl(plain.hslHue(), 255, 205) : plain;
 }
 
 LinkEdit::LinkEdit(QWidget* parent) : QLineEdit(parent) {
