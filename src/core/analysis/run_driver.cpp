@@ -50,6 +50,18 @@ void StartRunning(Session& session) {
     session.host().pane.RedrawToolbar();
 }
 
+// The last steps of a run that began at `datStart`: the list appears in the place of the bar, with the closing texts.
+RunResult FinishRun(Session& session, std::int64_t datStart) {
+    PaneView& pane = session.host().pane;
+    ErgebnisAnzeigen(session, true);
+    pane.FocusList();
+    const std::int64_t datEnde = session.host().clock.Now();
+    pane.ShowProgress(false);
+    pane.ShowStatus(true);
+    ShowClosingTexts(session, datEnde - datStart);
+    return RunResult::Finished;
+}
+
 // Labels and runs the check of the editor's setting. False after a stop.
 bool CheckEditorSetting(Session& session, int& intFortschritt) {
     Host& host = session.host();
@@ -87,13 +99,7 @@ RunResult RunProject(Session& session) {
     }
     host.pane.EnableStop(false);
     host.pane.EnableSprache(true);
-    ErgebnisAnzeigen(session, true);
-    host.pane.FocusList();
-    const std::int64_t datEnde = host.clock.Now();
-    host.pane.ShowProgress(false);
-    host.pane.ShowStatus(true);
-    ShowClosingTexts(session, datEnde - datStart);
-    return RunResult::Finished;
+    return FinishRun(session, datStart);
 }
 
 // A run over one component leaves the bar at 0, and the language box alone. The bar is hidden at the end, since the
@@ -109,13 +115,7 @@ RunResult RunComponent(Session& session, const VBComponent& vbc) {
     host.pane.SetObjekt(vbc.Name());
     PrüfungenDurchführen(session, vbc);
     host.pane.EnableStop(false);
-    ErgebnisAnzeigen(session, true);
-    host.pane.FocusList();
-    const std::int64_t datEnde = host.clock.Now();
-    host.pane.ShowProgress(false);
-    host.pane.ShowStatus(true);
-    ShowClosingTexts(session, datEnde - datStart);
-    return RunResult::Finished;
+    return FinishRun(session, datStart);
 }
 
 template <class Steps>
