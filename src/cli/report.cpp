@@ -37,16 +37,20 @@ class TextReport : public Report {
         for (const Hint& hint : session.lvwErgebnis.Emitted()) {
             const workspace::ModuleOrigin* origin = OriginOf(hint, project);
             if (origin != lastOrigin_ && !text_.empty()) text_ += '\n';
+            if (origin != lastOrigin_ || module_.empty()) {
+                path_ = origin == nullptr ? "" : Printable(origin->path);
+                module_ = Printable(TextView(hint.strNameVBC));
+            }
             lastOrigin_ = origin;
             auto out = std::back_inserter(text_);
             if (origin != nullptr) {
                 const int line = origin->FileLine(hint.lngZeile == 0 ? 1 : hint.lngZeile);
-                fmt::format_to(out, "{}{}:{}:{} ", bold_, Printable(origin->path), line, off_);
+                fmt::format_to(out, "{}{}:{}:{} ", bold_, path_, line, off_);
             }
             // What stands between two procedures belongs to none.
-            fmt::format_to(out, "{}{}{}: {} {}[{}]{}\n", Printable(TextView(hint.strNameVBC)),
-                           hint.strProzedur.empty() ? "" : ".", Printable(TextView(hint.strProzedur)),
-                           Printable(TextView(hint.strHinweis)), dim_, ToUtf8(InfoOf(hint.check).key), off_);
+            fmt::format_to(out, "{}{}{}: {} {}[{}]{}\n", module_, hint.strProzedur.empty() ? "" : ".",
+                           Printable(TextView(hint.strProzedur)), Printable(TextView(hint.strHinweis)), dim_,
+                           ToUtf8(InfoOf(hint.check).key), off_);
         }
     }
 
@@ -67,6 +71,9 @@ class TextReport : public Report {
     std::string text_;
     std::string status_;
     const workspace::ModuleOrigin* lastOrigin_ = nullptr;
+    // Of the module that the last hint was about, ready to be printed.
+    std::string path_;
+    std::string module_;
 };
 
 // For programs: one object a hint, in order of emission. Written by hand: this is the form in which a million hints are
