@@ -100,8 +100,8 @@ TEST_F(Scanning, CommentsAndStatements) {
     EXPECT_EQ(statements, "[a ][b][\":\"]");
 }
 
-// One scanner that goes through a module line by line answers like a fresh one for every place.
-TEST_F(Scanning, CommentScannerNeedsNoFreshStart) {
+// One scanner that goes through a module answers like a fresh one for every place, in whatever order it is asked.
+TEST_F(Scanning, ScannersOfLinesNeedNoFreshStart) {
     std::mt19937 random(7);
     const std::vector<Text> pieces = {u"'",   u"\"",   u": Rem", u": ", u"R",  u"Re", u"Rem ",
                                       u"em ", u" _\n", u"_\n",   u"\n", u"  ", u"x",  u":"};
@@ -109,12 +109,16 @@ TEST_F(Scanning, CommentScannerNeedsNoFreshStart) {
         Text code;
         for (int i = 0; i < 40; ++i) code += pieces[random() % pieces.size()];
         const CodeModule& cm = Module(code).CodeModule();
-        CommentScanner scanner(cm);
+        CommentScanner scanner(cm), wanderer(cm);
+        LogicalLineQuotes quotes(cm);
         for (int line = 1; line <= cm.CountOfLines(); ++line) {
             const int mark = scanner.MarkColumn(line);
+            const int any = 1 + static_cast<int>(random() % static_cast<unsigned>(cm.CountOfLines()));
+            ASSERT_EQ(wanderer.MarkColumn(any), CommentScanner(cm).MarkColumn(any)) << ToUtf8(code) << "\n" << any;
             for (int column = FirstColumn(cm.Lines(line)); column <= Len(cm.Lines(line)); ++column) {
                 int joinedColumn = column;
                 const Text joined = GibGanzeZeileVorh(cm, line, joinedColumn);
+                ASSERT_EQ(quotes.IsQuoted(line, column), IstPosInQuotes(joined, joinedColumn)) << ToUtf8(code);
                 bool expected = joined.starts_with(u"Rem ");
                 for (int i = 1; i < joinedColumn && !expected; ++i) {
                     const bool isMark = Mid(joined, i, 1) == u"'" || Mid(joined, i, 5) == u": Rem";

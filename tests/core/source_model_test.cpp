@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <random>
 
 #include "core/scanning/comments_and_strings.h"
@@ -189,6 +190,8 @@ TEST(Index, AnswersWhatAWalkOverTheTextAnswers) {
         VBProject project(u"P");
         project.ReportFailuresTo(reporter);
         for (const char16_t* name : {u"A", u"B", u"C"}) project.Add(name, 1, random.Make(120));
+        std::deque<HitFilter> filters;  // for all targets, so that questions come in any order
+        for (const auto& vbc : project.VBComponents()) filters.emplace_back(vbc->CodeModule());
         for (const TextView target :
              {u"a", u"ab", u"b_1", u"Ü", u"aé", u"Имя", u"a$", u"As a", u"RaiseEvent ab", u"x"}) {
             int swept = kNotUsed;
@@ -206,12 +209,14 @@ TEST(Index, AnswersWhatAWalkOverTheTextAnswers) {
 
                 const int line = static_cast<int>(random.Below(3));
                 const int column = static_cast<int>(random.Below(6));
-                ASSERT_EQ(WirdAusdruckInModulVerwendet(*vbc, target, line, column),
+                ASSERT_EQ(WirdAusdruckInModulVerwendet(*vbc, filters[vbc->Index()], target, line, column),
                           UseByWalk(*vbc, target, line, column))
                     << ToUtf8(cm.AllText()) << ToUtf8(target) << line << "," << column;
                 swept = std::max(swept, UseByWalk(*vbc, target, 1, 1));
             }
-            const auto use = [&](const VBComponent& vbc) { return WirdAusdruckInModulVerwendet(vbc, target, 1, 1); };
+            const auto use = [&](const VBComponent& vbc) {
+                return WirdAusdruckInModulVerwendet(vbc, filters[vbc.Index()], target, 1, 1);
+            };
             ASSERT_EQ(SweepProject(project, target, use), swept) << ToUtf8(target);
         }
     }

@@ -41,7 +41,7 @@ class StatementReader {
     }
 
     TextView TakeName() {
-        if (rest_.starts_with(u'[')) return rest_.substr(1, std::min(rest_.find(u']'), rest_.size()) - 1);
+        if (rest_.starts_with(u'[')) return rest_.substr(1, std::min(rest_.find_first_of(u"]\n"), rest_.size()) - 1);
         const auto end = std::find_if_not(rest_.begin(), rest_.end(), IsNameCharacter);
         return rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
     }

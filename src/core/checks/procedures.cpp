@@ -12,12 +12,10 @@ namespace zentlor::checks {
 
 namespace {
 
-// Whether the statement in front of a hit of "Error" ends in `words`, and these stand outside of a string.
-bool FollowsOutsideOfString(const CodeModule& cm, const Hit& hit, TextView words) {
-    if (!StandsBehind(cm, hit.line, hit.column, words, Len(words))) return false;
-    int column = hit.column;
-    const Text statement = GibGanzeZeileVorh(cm, hit.line, column);
-    return !IstPosInQuotes(statement, column - Len(words));
+bool StandsBehindAnyOn(const CodeModule& cm, const Hit& hit) {
+    constexpr std::array<TextView, 2> kWords = {u"On ", u"On Local "};
+    return std::any_of(kWords.begin(), kWords.end(),
+                       [&](TextView words) { return StandsBehind(cm, hit.line, hit.column, words, Len(words)); });
 }
 
 // Whether a procedure has error handling, in code or in a comment only. The text decides: "On Error GoTo 0" counts. The
@@ -27,11 +25,13 @@ int HatProzedurFehlerbehandlung(const VBComponent& vbc, const Procedure& procedu
     Frame(vbc.Project().Failures(), {kCheckModule, u"HatProzedurFehlerbehandlung", vbc.Name()}, [&] {
         const CodeModule& cm = vbc.CodeModule();
         HitFilter filter(cm);
+        LogicalLineQuotes quotes(cm);
         FindRange range{procedure.firstLine, 0, procedure.lastLine, 0};
         while (result != kUsed && cm.Find(u"Error", range, {.wholeWord = true, .matchCase = true})) {
             const Hit hit{range.startLine, range.startColumn};
             if (hit.line >= procedure.lastLine) return;
-            if (FollowsOutsideOfString(cm, hit, u"On ") || FollowsOutsideOfString(cm, hit, u"On Local ")) {
+            // The words hold no quotation mark, so the hit lies in a string if they do.
+            if (StandsBehindAnyOn(cm, hit) && !quotes.IsQuoted(hit.line, hit.column)) {
                 result = filter.IsInComment(hit.line, hit.column) ? kUsedInComments : kUsed;
             }
             range = {hit.line, hit.column + 1, procedure.lastLine, 0};
@@ -55,9 +55,8 @@ bool IsEmpty(const VBComponent& vbc, const Procedure& procedure) {
     return true;
 }
 
-bool IsUsedBehindHeader(const VBComponent& vbc, const Procedure& procedure, int headerLines, TextView name) {
-    const CodeModule& cm = vbc.CodeModule();
-    HitFilter filter(cm);
+bool IsUsedBehindHeader(const CodeModule& cm, HitFilter& filter, const Procedure& procedure, int headerLines,
+                        TextView name) {
     FindRange range{procedure.bodyLine + headerLines, 0, procedure.lastLine, -1};
     while (cm.FindWord(name, range, IstWortFortsetzungsZeichen)) {
         const Hit hit{range.startLine, range.startColumn};
@@ -117,9 +116,10 @@ void ProcParameterNichtGenutzt(const VBComponent& vbc, Hints& hints) {
     ForEachProcedure(vbc.CodeModule(), [&](const Procedure& procedure) {
         if (IstEreignisProzedur(procedure.name)) return;
         const HeaderText header = ReadHeader(vbc, procedure);
+        HitFilter filter(vbc.CodeModule());
         for (const typParameter& parameter : GetParameters(header.text)) {
             const TextView name = WithoutTypeCharacter(parameter.strName);
-            if (IsUsedBehindHeader(vbc, procedure, header.lineCount, name)) continue;
+            if (IsUsedBehindHeader(vbc.CodeModule(), filter, procedure, header.lineCount, name)) continue;
             hints.Add(procedure.name, procedure.firstLine, parameter.strName);
         }
     });

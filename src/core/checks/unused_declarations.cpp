@@ -18,17 +18,23 @@ TextView SearchName(const typModDeclaration& record) {
     return canHaveCharacter ? WithoutTypeCharacter(record.strName) : TextView(record.strName);
 }
 
-int UseIn(const VBComponent& searched, const VBComponent& declaring, const typModDeclaration& record, Start start) {
+int UseIn(const VBComponent& searched, HitFilter& filter, const VBComponent& declaring, const typModDeclaration& record,
+          Start start) {
     const TextView name = SearchName(record);
-    if (start == Start::Procedures) return WirdAusdruckInModulVerwendet(searched, name, 0, 0);
-    if (searched.Name() != declaring.Name()) return WirdAusdruckInModulVerwendet(searched, name, 1, 1);
-    return WirdAusdruckInModulVerwendet(searched, name, record.lngDeklZeile, record.lngDeklSpalte + 1);
+    if (start == Start::Procedures) return WirdAusdruckInModulVerwendet(searched, filter, name, 0, 0);
+    if (searched.Name() != declaring.Name()) return WirdAusdruckInModulVerwendet(searched, filter, name, 1, 1);
+    return WirdAusdruckInModulVerwendet(searched, filter, name, record.lngDeklZeile, record.lngDeklSpalte + 1);
 }
 
 void ReportUnused(const VBComponent& vbc, const ModDeclarations& table, int kind, Start start, Hints& hints) {
+    HitFilter own(vbc.CodeModule());
     ForEachRecord(table, [&](const typModDeclaration& record) {
         if (record.lngArt != kind || record.lngScope == kGlobal) return;
-        const auto useIn = [&](const VBComponent& searched) { return UseIn(searched, vbc, record, start); };
+        const auto useIn = [&](const VBComponent& searched) {
+            if (&searched == &vbc) return UseIn(searched, own, vbc, record, start);
+            HitFilter filter(searched.CodeModule());
+            return UseIn(searched, filter, vbc, record, start);
+        };
         const int use =
             record.lngScope == kPrivate ? useIn(vbc) : SweepProject(vbc.Project(), SearchName(record), useIn);
         hints.AddUnlessUsed(use, hints.Deklarationen(), record.lngDeklZeile, record.strName);
@@ -36,10 +42,12 @@ void ReportUnused(const VBComponent& vbc, const ModDeclarations& table, int kind
 }
 
 void ReportUnused(const ProcedureTables& tables, int kind, Hints& hints) {
+    HitFilter filter(tables.Component().CodeModule());
     ForEachLocal(tables, [&](const Procedure& procedure, const typProcDeclaration& record) {
         if (record.lngArt != kind) return;
-        const int use = WirdAusdruckInProzedurVerwendet(tables.Component(), WithoutTypeCharacter(record.strName),
-                                                        record.lngDeklZeile, record.lngDeklSpalte, procedure.lastLine);
+        const int use =
+            WirdAusdruckInProzedurVerwendet(tables.Component(), filter, WithoutTypeCharacter(record.strName),
+                                            record.lngDeklZeile, record.lngDeklSpalte, procedure.lastLine);
         hints.AddUnlessUsed(use, procedure.name, record.lngDeklZeile, record.strName);
     });
 }
@@ -50,9 +58,10 @@ void ModDeklariertesEventNichtGefeuert(const VBComponent& vbc, const ModDeclarat
                                        Hints& hints) {
     // Only the declaring class can raise its event.
     if (vbc.Type() != vbext_ct_ClassModule) return;
+    HitFilter filter(vbc.CodeModule());
     ForEachRecord(arrModDeclarations, [&](const typModDeclaration& record) {
         if (record.lngArt != kEvent) return;
-        const int use = WirdAusdruckInModulVerwendet(vbc, u"RaiseEvent " + record.strName, 0, 0);
+        const int use = WirdAusdruckInModulVerwendet(vbc, filter, u"RaiseEvent " + record.strName, 0, 0);
         hints.AddUnlessUsed(use, hints.Deklarationen(), record.lngDeklZeile, record.strName);
     });
 }

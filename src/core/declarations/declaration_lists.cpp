@@ -21,17 +21,12 @@ void Cut(TextView statement, int namePos, int nameEnd, int typePos, DeclaredName
 
 }  // namespace
 
-int NextColumn::From(int column) {
-    if (found_ == 0 || found_ >= column) return found_;
-    return found_ = InStr(column, text_, wanted_);
-}
-
 VariableList::VariableList(TextView statement, int lngPos)
     : statement_(statement),
-      blanks_(statement, u' '),
-      commas_(statement, u','),
-      opening_(statement, u'('),
-      closing_(statement, u')'),
+      blanks_(statement, u" "),
+      commas_(statement, u","),
+      opening_(statement, u"("),
+      closing_(statement, u")"),
       lngPos_(lngPos) {}
 
 bool VariableList::Next(DeclaredName& name) {
@@ -65,7 +60,7 @@ bool VariableList::Next(DeclaredName& name) {
 }
 
 ConstantList::ConstantList(TextView statement, int lngPos)
-    : statement_(statement), blanks_(statement, u' '), commas_(statement, u','), quotes_(statement), lngPos_(lngPos) {}
+    : statement_(statement), blanks_(statement, u" "), commas_(statement, u","), quotes_(statement), lngPos_(lngPos) {}
 
 int ConstantList::NextComma() {
     int comma = commas_.From(lngPos_);

@@ -4,6 +4,7 @@
 // a module's declarations and for a procedure's.
 
 #include "core/scanning/comments_and_strings.h"
+#include "core/scanning/next_column.h"
 #include "core/utilities/text.h"
 
 namespace zentlor {
@@ -13,19 +14,6 @@ struct DeclaredName {
     Text strName;
     bool blnDatentyp = false;
     bool blnKennzeichen = false;
-};
-
-/// First occurrences of a character, for columns that only grow: each part of the text is searched once.
-class NextColumn {
-  public:
-    NextColumn(TextView text, char16_t wanted) : text_(text), wanted_(wanted) {}
-    /// Column of the first one at or behind `column`, or 0. `column` is not below that of an earlier question.
-    int From(int column);
-
-  private:
-    TextView text_;
-    char16_t wanted_;
-    int found_ = -1;
 };
 
 /// The names of "a, b As Long, c(5) As String" from column `lngPos` of a statement on. Next() gives one name after the

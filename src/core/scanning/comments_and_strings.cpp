@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/scanning/logical_lines.h"
 #include "core/utilities/character_blocks.h"
 
 namespace zentlor {
@@ -47,9 +48,20 @@ bool IstPosInQuotes(TextView strZeile, int lngPos) {
 
 bool QuoteCounter::IsQuoted(int column) {
     const auto end = std::min(text_.size(), static_cast<std::size_t>(std::max(column, 1) - 1));
-    if (read_ < end) odd_ = odd_ != HasOddQuotes(text_.substr(read_, end - read_));
-    read_ = std::max(read_, end);
+    const auto [from, to] = std::minmax(read_, end);
+    odd_ = odd_ != HasOddQuotes(text_.substr(from, to - from));
+    read_ = end;
     return odd_;
+}
+
+bool LogicalLineQuotes::IsQuoted(int line, int column) {
+    if (line != line_) {
+        const LineStep step = StepTo(cm_, line_, line);
+        if (!step.goesOn) odd_ = false;
+        for (line_ = step.first; line_ < line; ++line_) odd_ = odd_ != HasOddQuotes(cm_.Lines(line_));
+        quotes_ = QuoteCounter(cm_.Lines(line));
+    }
+    return odd_ != quotes_.IsQuoted(column);
 }
 
 int PosErsterDoppelPunkt(TextView strZeile) {
@@ -73,19 +85,13 @@ bool IstPosInKommentar(const CodeModule& cm, int lngZeile, int lngSpalte) {
 
 // Brings the joined text up to the end of the line in front of `line`.
 void CommentScanner::MoveTo(int line) {
-    const auto continued = [this](int l) {
-        const TextView text = RTrim(cm_.Lines(l));
-        return !text.empty() && text.back() == u'_';
-    };
-    int first = line;
-    while (first > std::max(next_, 1) && continued(first - 1)) --first;
-    const bool goesOn = next_ > 1 && first == next_ && continued(first - 1);
-    if (!goesOn) {
+    const LineStep step = StepTo(cm_, next_, line);
+    if (!step.goesOn) {
         tail_.clear();
         start_.clear();
         quoted_ = comment_ = false;
     }
-    for (next_ = first; next_ < line; ++next_) {
+    for (next_ = step.first; next_ < line; ++next_) {
         const TextView text = Trim(cm_.Lines(next_));
         const TextView piece = text.substr(0, text.size() - 1);
         if (start_.size() < kRemAtStart.size()) start_.append(piece.substr(0, kRemAtStart.size()));

@@ -21,7 +21,7 @@ TextView KommentarEntfernen(TextView strZeile);
 /// included. False if a read fails.
 bool IstPosInKommentar(const CodeModule& cm, int lngZeile, int lngSpalte);
 
-/// The quotation marks of one text for questions in ascending order of columns: each part of the text is read once.
+/// The quotation marks of one text. A question reads what lies between its column and that of the question before.
 class QuoteCounter {
   public:
     explicit QuoteCounter(TextView text) : text_(text) {}
@@ -34,8 +34,22 @@ class QuoteCounter {
     bool odd_ = false;
 };
 
-/// The comment marks of a module's lines for questions in ascending order of lines: a logical line is read once,
-/// however many lines and hits it has.
+/// Whether a place of a physical line lies in a string of its logical line, as GibGanzeZeileVorh joins it. For
+/// questions in ascending order each line is read once.
+class LogicalLineQuotes {
+  public:
+    explicit LogicalLineQuotes(const CodeModule& cm) : cm_(cm), quotes_({}) {}
+    bool IsQuoted(int line, int column);
+
+  private:
+    const CodeModule& cm_;
+    int line_ = 0;
+    bool odd_ = false;  ///< of the marks in front of line_
+    QuoteCounter quotes_;
+};
+
+/// The comment marks of a module's lines. For questions in ascending order a logical line is read once, however many
+/// lines and hits it has.
 class CommentScanner {
   public:
     explicit CommentScanner(const CodeModule& cm) : cm_(cm) {}

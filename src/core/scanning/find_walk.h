@@ -15,8 +15,8 @@ struct Hit {
     auto operator<=>(const Hit&) const = default;
 };
 
-/// Tells hits in comments and strings for hits in ascending order: what IstPosInKommentar and IstPosInQuotes answer,
-/// with each line read once.
+/// Tells hits in comments and strings: what IstPosInKommentar and IstPosInQuotes answer. For hits in ascending order
+/// each line is read once.
 class HitFilter {
   public:
     explicit HitFilter(const CodeModule& cm) : cm_(cm), comments_(cm), quotes_({}) {}

@@ -39,6 +39,14 @@ bool EndsInMark(TextView line) {
     return !trimmed.empty() && trimmed.back() == u'_';
 }
 
+LineStep StepTo(const CodeModule& cm, int next, int line) {
+    if (line < next) next = 0;
+    LineStep step{line, false};
+    while (step.first > std::max(next, 1) && EndsInMark(cm.Lines(step.first - 1))) --step.first;
+    step.goesOn = next > 1 && step.first == next && EndsInMark(cm.Lines(next - 1));
+    return step;
+}
+
 Text GibGanzeZeile(const VBComponent& vbc, int lngZeile, int& lngAnzahl) {
     Text result;
     lngAnzahl = 1;

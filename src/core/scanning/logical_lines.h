@@ -11,6 +11,15 @@ namespace zentlor {
 /// Whether the scanners join this physical line to the next one.
 bool EndsInMark(TextView line);
 
+/// How a reader of lines comes to a line.
+struct LineStep {
+    int first = 0;        ///< the line to read next
+    bool goesOn = false;  ///< it is continued from lines that were read already; else it begins a logical line
+};
+/// For a reader who has read the lines in front of `next`, or nothing if that is 0, and wants all of the logical line
+/// in front of `line`. Linear over questions in ascending order; going back starts anew.
+LineStep StepTo(const CodeModule& cm, int next, int line);
+
 /// The logical line that physical line `lngZeile` is part of, whichever part that is.
 /// `lngAnzahl` receives how many physical lines were joined, those in front of `lngZeile` included.
 /// If a read fails the text is empty, and `lngAnzahl` stays as far as it got.

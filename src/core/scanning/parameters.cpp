@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/scanning/comments_and_strings.h"
+#include "core/scanning/next_column.h"
 
 namespace zentlor {
 
@@ -20,26 +21,32 @@ bool IsModifier(TextView word) {
 class ParameterReader {
   public:
     explicit ParameterReader(TextView header)
-        : header_(header), quotes_(header), column_(InStr(1, header, u'(') + 1), end_(PosEndeParameter(header)) {}
+        : header_(header),
+          blanks_(header, u" "),
+          commas_(header, u","),
+          types_(header, u"As "),
+          quotes_(header),
+          column_(InStr(1, header, u'(') + 1),
+          end_(PosEndeParameter(header)) {}
 
     bool AtEnd() const { return column_ >= end_; }
 
     // False at an empty word, which ends the list.
     bool Read(typParameter& parameter) {
-        int blank = InStr(column_ + 1, header_, u' ');
+        int blank = blanks_.From(column_ + 1);
         if (blank == 0 || blank > end_) blank = end_;
         TextView word = Word(blank);
         if (word.empty()) return false;
         while (IsModifier(word)) {
             if (word != u"Optional") parameter.blnByValByRef = true;
             column_ = blank;
-            blank = InStr(column_ + 1, header_, u' ');
+            blank = blanks_.From(column_ + 1);
             if (blank == 0) blank = end_;
             word = Word(blank);
         }
         parameter.strName = NameOf(word);
         const int comma = NextComma();
-        const int as = InStr(column_ + 1 + Len(parameter.strName), header_, u"As ");
+        const int as = types_.From(column_ + 1 + Len(parameter.strName));
         parameter.blnKennzeichen = EndsInTypeCharacter(parameter.strName);
         parameter.blnDatentyp = parameter.blnKennzeichen || (as != 0 && as <= comma);
         column_ = comma + 1;
@@ -56,13 +63,16 @@ class ParameterReader {
     }
 
     int NextComma() {
-        for (int comma = InStr(column_, header_, u','); comma != 0; comma = InStr(comma + 1, header_, u',')) {
+        for (int comma = commas_.From(column_); comma != 0; comma = commas_.From(comma + 1)) {
             if (!quotes_.IsQuoted(comma)) return comma;
         }
         return end_;
     }
 
     TextView header_;
+    NextColumn blanks_;
+    NextColumn commas_;
+    NextColumn types_;
     QuoteCounter quotes_;
     int column_;
     int end_;

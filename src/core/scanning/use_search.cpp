@@ -1,7 +1,5 @@
 #include "core/scanning/use_search.h"
 
-#include "core/scanning/find_walk.h"
-
 namespace zentlor {
 
 namespace {
@@ -11,8 +9,7 @@ constexpr TextView kWordCharacters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmno
 constexpr int kBehindEveryColumn = 1024;
 
 // The walk that both searches share. `result` is kept up to date, for the case that the walk fails.
-void SearchUse(const CodeModule& cm, TextView expression, FindRange range, int& result) {
-    HitFilter filter(cm);
+void SearchUse(const CodeModule& cm, HitFilter& filter, TextView expression, FindRange range, int& result) {
     const FindRange bounds = range;
     while (cm.FindWord(expression, range, IstWortFortsetzungsZeichen)) {
         if (filter.IsInComment(range.startLine, range.startColumn)) {
@@ -44,21 +41,23 @@ bool IstTrefferGanzesWort(const CodeModule& cm, TextView strAusdruck, int lngZei
     return result;
 }
 
-int WirdAusdruckInModulVerwendet(const VBComponent& vbc, TextView strAusdruck, int lngZeile, int lngSpalte) {
+int WirdAusdruckInModulVerwendet(const VBComponent& vbc, HitFilter& filter, TextView strAusdruck, int lngZeile,
+                                 int lngSpalte) {
     int result = kNotUsed;
     Frame(vbc.Project().Failures(), {kModule, u"WirdAusdruckInModulVerwendet", vbc.Name()}, [&] {
         const CodeModule& cm = vbc.CodeModule();
         const int line = lngZeile == 0 ? cm.CountOfDeclarationLines() + 1 : lngZeile;
-        SearchUse(cm, strAusdruck, {line, lngSpalte, -1, kBehindEveryColumn}, result);
+        SearchUse(cm, filter, strAusdruck, {line, lngSpalte, -1, kBehindEveryColumn}, result);
     });
     return result;
 }
 
-int WirdAusdruckInProzedurVerwendet(const VBComponent& vbc, TextView strAusdruck, int lngZeile, int lngSpalte,
-                                    int lngEndZeile) {
+int WirdAusdruckInProzedurVerwendet(const VBComponent& vbc, HitFilter& filter, TextView strAusdruck, int lngZeile,
+                                    int lngSpalte, int lngEndZeile) {
     int result = kNotUsed;
     Frame(vbc.Project().Failures(), {kModule, u"WirdAusdruckInProzedurVerwendet", vbc.Name()}, [&] {
-        SearchUse(vbc.CodeModule(), strAusdruck, {lngZeile, lngSpalte + 1, lngEndZeile, kBehindEveryColumn}, result);
+        SearchUse(vbc.CodeModule(), filter, strAusdruck, {lngZeile, lngSpalte + 1, lngEndZeile, kBehindEveryColumn},
+                  result);
     });
     return result;
 }

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "core/analysis/source_model.h"
+#include "core/scanning/find_walk.h"
 
 namespace zentlor {
 
@@ -23,12 +23,14 @@ bool IstWortFortsetzungsZeichen(char16_t zeichen);
 bool IstTrefferGanzesWort(const CodeModule& cm, TextView strAusdruck, int lngZeile, int lngSpalte);
 
 /// Searches the component from a place on to its end; line 0 stands for the line behind the declaration section.
-/// After a failure: the result reached so far.
-int WirdAusdruckInModulVerwendet(const VBComponent& vbc, TextView strAusdruck, int lngZeile, int lngSpalte);
+/// After a failure: the result reached so far. `filter` is one over `vbc` with which further searches may go on: where
+/// one line holds the uses of many names, it is read once.
+int WirdAusdruckInModulVerwendet(const VBComponent& vbc, HitFilter& filter, TextView strAusdruck, int lngZeile,
+                                 int lngSpalte);
 
 /// Searches from one column behind the given place up to line `lngEndZeile`.
-int WirdAusdruckInProzedurVerwendet(const VBComponent& vbc, TextView strAusdruck, int lngZeile, int lngSpalte,
-                                    int lngEndZeile);
+int WirdAusdruckInProzedurVerwendet(const VBComponent& vbc, HitFilter& filter, TextView strAusdruck, int lngZeile,
+                                    int lngSpalte, int lngEndZeile);
 
 /// Up to `lngAnzahl` characters of physical line `lngZeile` behind column `lngSpalte`.
 TextView GibNaechsteZeichen(const CodeModule& cm, int lngZeile, int lngSpalte, int lngAnzahl);
