@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 
 #include "core/utilities/text.h"
 
@@ -19,11 +20,11 @@ enum class Keyword : std::uint16_t {
 };
 
 /// The number of keywords; their values run from 1 to this one.
-inline constexpr std::size_t kKeywordCount = 0
-#define KEYWORD(word, wordClass) +1
+inline constexpr std::size_t kKeywordCount = std::size(std::initializer_list<Keyword>{
+#define KEYWORD(word, wordClass) Keyword::word,
 #include "vba/keywords.def"
 #undef KEYWORD
-    ;
+});
 
 /// The keyword that `word` is in any capitalisation, or `Keyword::None`. `word` holds ASCII characters alone.
 Keyword FindKeyword(TextView word);
