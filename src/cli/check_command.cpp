@@ -65,7 +65,7 @@ class CheckCommand {
           settings_(arguments),
           host_(arguments.requireDeclaration),
           session_(host_.AsHost(settings_.Store())),
-          report_(MakeReport(arguments.format, ShowsColour() && arguments.output.empty())) {}
+          report_(MakeReport(arguments.format, ShowsColour() && arguments.output.empty(), WriterOfPieces())) {}
 
     int Run() {
         host_.ServeStopsOf(session_);
@@ -79,16 +79,22 @@ class CheckCommand {
         }
         if (arguments_.stageTimes) PrintStageTimes(std::chrono::steady_clock::now() - start);
         const std::string bytes = report_->Finish(session_, opened_);
-        const bool written = WriteOutput(arguments_.output, bytes, sprache_);
+        written_ = written_ && WriteOutput(arguments_.output, bytes, sprache_);
         if (ConsoleHost::Interrupted()) {
             fmt::print(stderr, "{}\n", ToUtf8(session_.GetResourceString(216)));
             return kInterrupted;
         }
-        const bool trouble = !written || refused_ || !opened_.Complete() || session_.FailureCount() > 0;
+        const bool trouble = !written_ || refused_ || !opened_.Complete() || session_.FailureCount() > 0;
         return trouble ? kTrouble : found_ ? kHints : kNoHints;
     }
 
   private:
+    // A file is replaced in one step, by the whole report.
+    PieceWriter WriterOfPieces() {
+        if (!arguments_.output.empty()) return {};
+        return [this](const std::string& bytes) { written_ = written_ && WriteOutput({}, bytes, sprache_); };
+    }
+
     void ReadOptions() {
         OptionenLesen(settings_.Store(), session_, session_.udtOptionen);
         if (arguments_.sprache != 0) session_.udtOptionen.AllgSprache = arguments_.sprache;
@@ -179,6 +185,7 @@ class CheckCommand {
     workspace::Workspace opened_;
     workspace::StageTimes times_;
     int sprache_ = 1;
+    bool written_ = true;
     bool found_ = false;
     bool refused_ = false;
 };

@@ -18,31 +18,55 @@ const workspace::ModuleOrigin* OriginOf(const Hint& hint, const workspace::Opene
     return hint.component < 0 ? nullptr : &project.origins[static_cast<std::size_t>(hint.component)];
 }
 
-// A million hints are a hundred megabytes of text. Room for all of it is taken at once, since text that grows by
-// doubling is there twice while it moves; what is never written costs nothing.
-void MakeRoom(std::size_t hints, std::string& text) {
-    constexpr std::size_t kUsualLine = 256;
-    const std::size_t wanted = text.size() + hints * kUsualLine;
-    if (wanted > text.capacity()) text.reserve(std::max(wanted, 2 * text.capacity()));
-}
+// The text of a report, of which only the last piece is kept if somebody takes the others.
+class Pieces {
+  public:
+    explicit Pieces(PieceWriter write) : write_(std::move(write)) {}
+
+    // Room for that many hints is taken at once, since text that grows by doubling is there twice while it moves; what
+    // is never written costs nothing.
+    void MakeRoom(std::size_t hints) {
+        constexpr std::size_t kUsualLine = 256;
+        const std::size_t wanted = text.size() + (write_ ? kPiece : hints * kUsualLine);
+        if (wanted > text.capacity()) text.reserve(std::max(wanted, 2 * text.capacity()));
+    }
+
+    // To be called behind each line.
+    void EndLine() {
+        hasBegun = true;
+        if (!write_ || text.size() < kPiece) return;
+        write_(text);
+        text.clear();
+    }
+
+    std::string text;
+    bool hasBegun = false;
+
+  private:
+    static constexpr std::size_t kPiece = 1 << 20;
+    PieceWriter write_;
+};
 
 // For people: one line a hint, a blank line between two modules, and the status texts at the end.
 class TextReport : public Report {
   public:
-    explicit TextReport(bool colour)
-        : bold_(colour ? "\033[1m" : ""), dim_(colour ? "\033[2m" : ""), off_(colour ? "\033[0m" : "") {}
+    TextReport(bool colour, PieceWriter writePiece)
+        : bold_(colour ? "\033[1m" : ""),
+          dim_(colour ? "\033[2m" : ""),
+          off_(colour ? "\033[0m" : ""),
+          pieces_(std::move(writePiece)) {}
 
     void AddProject(Session& session, const workspace::OpenedProject& project) override {
-        MakeRoom(session.lvwErgebnis.Count(), text_);
+        pieces_.MakeRoom(session.lvwErgebnis.Count());
         for (const Hint& hint : session.lvwErgebnis.Emitted()) {
             const workspace::ModuleOrigin* origin = OriginOf(hint, project);
-            if (origin != lastOrigin_ && !text_.empty()) text_ += '\n';
+            if (origin != lastOrigin_ && pieces_.hasBegun) pieces_.text += '\n';
             if (origin != lastOrigin_ || module_.empty()) {
                 path_ = origin == nullptr ? "" : Printable(origin->path);
                 module_ = Printable(TextView(hint.strNameVBC));
             }
             lastOrigin_ = origin;
-            auto out = std::back_inserter(text_);
+            auto out = std::back_inserter(pieces_.text);
             if (origin != nullptr) {
                 const int line = origin->FileLine(hint.lngZeile == 0 ? 1 : hint.lngZeile);
                 fmt::format_to(out, "{}{}:{}:{} ", bold_, path_, line, off_);
@@ -51,6 +75,7 @@ class TextReport : public Report {
             fmt::format_to(out, "{}{}{}: {} {}[{}]{}\n", module_, hint.strProzedur.empty() ? "" : ".",
                            Printable(TextView(hint.strProzedur)), Printable(TextView(hint.strHinweis)), dim_,
                            ToUtf8(InfoOf(hint.check).key), off_);
+            pieces_.EndLine();
         }
     }
 
@@ -59,16 +84,16 @@ class TextReport : public Report {
     }
 
     std::string Finish(Session& session, const workspace::Workspace& opened) override {
-        if (!text_.empty()) text_ += '\n';
-        text_ += status_ + ReadSummary(opened, session.udtOptionen.AllgSprache) + "\n";
-        return std::move(text_);
+        if (pieces_.hasBegun) pieces_.text += '\n';
+        pieces_.text += status_ + ReadSummary(opened, session.udtOptionen.AllgSprache) + "\n";
+        return std::move(pieces_.text);
     }
 
   private:
     const char* bold_;
     const char* dim_;
     const char* off_;
-    std::string text_;
+    Pieces pieces_;
     std::string status_;
     const workspace::ModuleOrigin* lastOrigin_ = nullptr;
     // Of the module that the last hint was about, ready to be printed.
@@ -80,17 +105,19 @@ class TextReport : public Report {
 // handed on.
 class JsonReport : public Report {
   public:
+    explicit JsonReport(PieceWriter writePiece) : pieces_(std::move(writePiece)) {}
+
     void AddProject(Session& session, const workspace::OpenedProject& project) override {
-        MakeRoom(session.lvwErgebnis.Count(), lines_);
+        pieces_.MakeRoom(session.lvwErgebnis.Count());
         for (const Hint& hint : session.lvwErgebnis.Emitted()) AddHint(hint, project);
     }
     void AddStatus(const std::string&, const std::string&) override {}
-    std::string Finish(Session&, const workspace::Workspace&) override { return std::move(lines_); }
+    std::string Finish(Session&, const workspace::Workspace&) override { return std::move(pieces_.text); }
 
   private:
     void Field(std::string_view name, TextView value) {
-        lines_ += name;
-        AppendJsonString(value, lines_);
+        pieces_.text += name;
+        AppendJsonString(value, pieces_.text);
     }
 
     void AddHint(const Hint& hint, const workspace::OpenedProject& project) {
@@ -99,14 +126,15 @@ class JsonReport : public Report {
         Field(",\"module\":", hint.strNameVBC);
         Field(",\"procedure\":", hint.strProzedur);
         Field(",\"hint\":", hint.strHinweis);
-        fmt::format_to(std::back_inserter(lines_), ",\"line\":{}", hint.lngZeile);
+        fmt::format_to(std::back_inserter(pieces_.text), ",\"line\":{}", hint.lngZeile);
         Field(",\"path\":", origin == nullptr ? Text() : FromUtf8(origin->path));
         if (project.isDocument) Field(",\"document\":", FromUtf8(project.document.path));
         const int fileLine = origin == nullptr || hint.lngZeile == 0 ? 0 : origin->FileLine(hint.lngZeile);
-        fmt::format_to(std::back_inserter(lines_), ",\"fileLine\":{}}}\n", fileLine);
+        fmt::format_to(std::back_inserter(pieces_.text), ",\"fileLine\":{}}}\n", fileLine);
+        pieces_.EndLine();
     }
 
-    std::string lines_;
+    Pieces pieces_;
 };
 
 // The two forms of the export: bytes of Windows-1252, rows in the order of the list. The hints of several projects make
@@ -145,9 +173,9 @@ std::string Count(std::size_t number, int sprache, Forms german, Forms english) 
 
 }  // namespace
 
-std::unique_ptr<Report> MakeReport(const std::string& format, bool colour) {
-    if (format == "jsonl") return std::make_unique<JsonReport>();
-    if (format == "text") return std::make_unique<TextReport>(colour);
+std::unique_ptr<Report> MakeReport(const std::string& format, bool colour, PieceWriter writePiece) {
+    if (format == "jsonl") return std::make_unique<JsonReport>(std::move(writePiece));
+    if (format == "text") return std::make_unique<TextReport>(colour, std::move(writePiece));
     return std::make_unique<RecordReport>(format == "csv");
 }
 

@@ -128,6 +128,20 @@ TEST_F(Program, FormatsKeepTheirForm) {
     EXPECT_EQ(Zentlor("check " + module + " --isolated -o /nirgends/x.txt").status, 2);
 }
 
+TEST_F(Program, ALongReportIsTheSameInPiecesAndInOne) {
+    std::string code = "Sub A()\n";
+    for (int i = 0; i < 12000; ++i) code += "Stop\n";
+    const std::string command = "check " + Module("m.bas", code + "End Sub\n") + " --isolated --format ";
+    const std::string file = (folder.path / "out").string();
+    for (const std::string format : {"text", "jsonl"}) {
+        const ProgramResult pieces = Zentlor(command + format);
+        EXPECT_GT(pieces.out.size(), std::size_t{1} << 20);
+        EXPECT_EQ(Zentlor(command + format + " -o " + file).status, 1);
+        EXPECT_TRUE(WithoutDuration(pieces.out) == WithoutDuration(ReadFile(file))) << format;
+        EXPECT_EQ(Zentlor(command + format + " > /dev/full").status, 2);
+    }
+}
+
 TEST_F(Program, WhatComesOutOfASourceIsShownEscaped) {
     const std::string module = Module(
         "m.bas", "Sub A()\n    Stop ' \x1b[31m\nEnd Sub\nSub B\x1b()\nEnd Sub\nPublic Const \u202ek\u202e = 1\n");

@@ -45,7 +45,7 @@ std::string Describe(TextView component, TextView procedure, int line) {
 bool Announces(const test::ExpectedHint& expected, const Hint& hint) {
     const bool placed = hint.check == CheckId::ModOptionExplicitAutomatisch || expected.component == hint.strNameVBC;
     return placed && expected.procedure == hint.strProzedur && expected.line == hint.lngZeile &&
-           hint.strHinweis.find(expected.textPart) != Text::npos;
+           TextView(hint.strHinweis).find(expected.textPart) != Text::npos;
 }
 
 class CheckTest : public testing::TestWithParam<CheckInfo> {};

@@ -53,11 +53,11 @@ Text SortText(int lngZeile) {
 Text CellText(const Hint& hint, int column) {
     switch (column) {
         case 1:
-            return hint.strNameVBC;
+            return Text(TextView(hint.strNameVBC));
         case 2:
-            return hint.strProzedur;
+            return Text(TextView(hint.strProzedur));
         case 3:
-            return hint.strHinweis;
+            return Text(TextView(hint.strHinweis));
         case 4:
             return ToText(hint.lngZeile);
         default:
@@ -66,6 +66,12 @@ Text CellText(const Hint& hint, int column) {
 }
 
 void ResultList::Add(Hint hint) {
+    if (!hints_.empty()) {
+        const Hint& last = hints_.back();
+        hint.strNameVBC.ShareWith(last.strNameVBC);
+        hint.strProzedur.ShareWith(last.strProzedur);
+        hint.strHinweis.ShareWith(last.strHinweis);
+    }
     hints_.push_back(std::move(hint));
 }
 

@@ -6,15 +6,15 @@
 #include <vector>
 
 #include "core/checks/catalogue.h"
-#include "core/utilities/text.h"
+#include "core/utilities/shared_text.h"
 
 namespace zentlor {
 
 /// What a check hands over, and what a row shows. The text is finished, in the language of its moment.
 struct Hint {
-    Text strNameVBC;
-    Text strProzedur;
-    Text strHinweis;
+    SharedText strNameVBC;
+    SharedText strProzedur;
+    SharedText strHinweis;
     int lngZeile = 0;  ///< 0: the hint belongs to no line
     CheckId check{};
     /// Position of the component in the project, counted from 0; -1 for a hint about the editor. No row shows it.
@@ -30,7 +30,8 @@ inline constexpr int kVisibleColumns = 4;
 
 class ResultList {
   public:
-    /// Puts a hint behind all others in order of emission; the sort decides its place among the rows.
+    /// Puts a hint behind all others in order of emission; the sort decides its place among the rows. Texts that are
+    /// those of the hint before, as most are, take no memory of their own.
     void Add(Hint hint);
     void Clear();
 
