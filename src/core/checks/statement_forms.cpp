@@ -18,7 +18,7 @@ std::vector<Hit> CodeHits(const CodeModule& cm, TextView target) {
 
 // Skips the hits up to and including `place`, and returns the one behind it, or nullptr.
 const Hit* NextBehind(const std::vector<Hit>& hits, std::size_t& next, const Hit& place) {
-    while (next < hits.size() && hits[next] <= place) ++next;
+    while (next < hits.size() && !(place < hits[next])) ++next;
     return next < hits.size() ? &hits[next] : nullptr;
 }
 

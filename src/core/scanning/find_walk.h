@@ -2,7 +2,6 @@
 
 // The find walk: all occurrences of a target in code, one after the other. Hits in comments and strings are dropped.
 
-#include <compare>
 #include <type_traits>
 
 #include "core/scanning/comments_and_strings.h"
@@ -12,7 +11,11 @@ namespace zentlor {
 struct Hit {
     int line = 0;
     int column = 0;
-    auto operator<=>(const Hit&) const = default;
+
+    /// In the order of the text.
+    friend bool operator<(const Hit& a, const Hit& b) {
+        return a.line != b.line ? a.line < b.line : a.column < b.column;
+    }
 };
 
 /// Tells hits in comments and strings: what IstPosInKommentar and IstPosInQuotes answer. For hits in ascending order
