@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -26,7 +27,7 @@ std::string ReadFile(const fs::path& path) {
     return text.str();
 }
 
-std::vector<Hint> RunOnly(CheckId check, const test::Fixture& fixture) {
+std::deque<Hint> RunOnly(CheckId check, const test::Fixture& fixture) {
     test::FakeHost host;
     host.requireDeclaration = fixture.requireDeclaration;
     for (const auto& c : fixture.components) host.project->Add(c.name, c.type, c.code);

@@ -3,6 +3,7 @@
 // The result list: where a hint ends up. Its rows are the only store of hints; jump, sort and export read them back.
 
 #include <cstddef>
+#include <deque>
 #include <vector>
 
 #include "core/checks/catalogue.h"
@@ -37,7 +38,7 @@ class ResultList {
 
     std::size_t Count() const { return hints_.size(); }
     /// Hints in order of emission.
-    const std::vector<Hint>& Emitted() const { return hints_; }
+    const std::deque<Hint>& Emitted() const { return hints_; }
     /// The hint in row `row` of the list, counted from 0. The rows are put in order when they are asked for.
     const Hint& Row(std::size_t row) const { return hints_[Order()[row]]; }
     /// For each row the number of its hint in order of emission.
@@ -53,7 +54,7 @@ class ResultList {
     void Sort(std::size_t sorted) const;
     bool InFront(std::size_t a, std::size_t b) const;
 
-    std::vector<Hint> hints_;
+    std::deque<Hint> hints_;  // grows without a second copy of a million hints
     int sortKey_ = kSortModule;
     bool ascending_ = true;
     mutable std::vector<std::size_t> order_;
