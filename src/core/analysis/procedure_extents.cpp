@@ -14,9 +14,11 @@ bool IsSpace(char16_t c) {
     return c == u' ' || c == u'\t';
 }
 
-// Outside of ASCII everything is part of a name: the code pages of the editor know letters that others do not.
+// Outside of ASCII everything but punctuation is part of a name: the code pages of the editor know letters that others
+// do not.
 bool IsNameCharacter(char16_t c) {
-    return c >= 0x80 || IsWordCharacter(c);
+    const bool isPunctuation = c >= 0x2000 && c <= 0x206F;
+    return (c >= 0x80 && !isPunctuation) || IsWordCharacter(c);
 }
 
 // Takes words off the front of a statement. A continuation between two words is a blank like others.
