@@ -48,7 +48,7 @@ inline std::size_t SkipSpaces(TextView text, std::size_t from) {
 
 /// `a == b`, quicker for words: the standard's comparison of this type of text goes character by character.
 inline bool IsSame(TextView a, TextView b) {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+    return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
 }
 
 /// `number` in decimal, without blanks.
