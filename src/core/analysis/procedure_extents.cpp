@@ -167,10 +167,7 @@ class StatementCutter {
     // Behind the string, the bracketed name, the word or the single character that begins at `at`.
     std::size_t EndOfPiece(std::size_t at) {
         std::size_t end = at + 1;
-        if (line_[at] == u'"') {
-            end = FindAny(line_, end, u'"', u'\n');
-            return std::min(end + 1, line_.size());
-        }
+        if (line_[at] == u'"') return std::min(FindAny(line_, end, u'"') + 1, line_.size());
         if (line_[at] == u'[') return EndOfBrackets(at);
         if (!IsNameCharacter(line_[at])) return end;
         while (end < line_.size() && IsNameCharacter(line_[end])) ++end;
