@@ -60,8 +60,11 @@ TEST(Extents, FollowTheLanguage) {
         {"an end in a string or a comment is none",
          u"Sub A()\nx = \":End Sub\"\n'x: End Sub\nEnd Sub\nSub B()\nEnd Sub", "declarations 0; A/0 1-1-4; B/0 5-5-6"},
         {"nor in a Rem that begins where a statement may",
-         u"Sub A()\na: Rem b: End Sub\nIf x Then y Else Rem _\n: End Sub\nx.Else.Rem: End Sub\nSub B()\nEnd Sub",
+         u"Sub A()\na: Rem b: End Sub\nIf x Then y Else Rem _\n: End Sub\nx.Else.Rem: End Sub\nSub "
+         u"B()\nEnd Sub",
          "declarations 0; A/0 1-1-5; B/0 6-6-7"},
+        {"where none may begin, Rem is a word", u"Sub A()\nx = 1 _\nRem: End Sub\nSub B()\n10 Rem: End Sub\nEnd Sub",
+         "declarations 0; A/0 1-1-3; B/0 4-4-6"},
         {"nor in a bracketed name, whatever that holds",
          u"Sub A()\nx = [a: End Sub]\nx = [[b]: End Sub]\nx = [it's \"]: End Sub\nSub B()\nx = [: End Sub",
          "declarations 0; A/0 1-1-4; B/0 5-5-6"},

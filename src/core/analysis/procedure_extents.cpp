@@ -21,6 +21,10 @@ bool IsNameCharacter(char16_t c) {
     return (c >= 0x80 && !isPunctuation) || IsWordCharacter(c);
 }
 
+bool IsNumber(TextView word) {
+    return !word.empty() && word.find_first_not_of(u"0123456789") == TextView::npos;
+}
+
 // Takes words off the front of a statement. A continuation between two words is a blank like others.
 class StatementReader {
   public:
@@ -50,7 +54,7 @@ class StatementReader {
 
     void SkipLineNumber() {
         const TextView word = PeekWord();
-        if (!word.empty() && word.find_first_not_of(u"0123456789") == TextView::npos) Skip(word.size());
+        if (IsNumber(word)) Skip(word.size());
     }
 
   private:
@@ -144,7 +148,9 @@ class StatementCutter {
                 end = piece;
                 break;
             }
-            if (!IsBetweenWords(word)) mayBegin = GoesBeforeStatement(word, piece);
+            if (IsBetweenWords(word)) continue;
+            const bool isLineNumber = mayBegin && begin_ == 0 && IsNumber(word);
+            mayBegin = isLineNumber || GoesBeforeStatement(word, piece);
         }
         statement = line_.substr(begin_, end - begin_);
         const bool goesOn = end < line_.size() && line_[end] == u':';
@@ -159,9 +165,8 @@ class StatementCutter {
     }
 
     bool GoesBeforeStatement(TextView word, std::size_t at) const {
-        if (at > 0 && (line_[at - 1] == u'.' || line_[at - 1] == u'!')) return false;
-        const bool isNumber = word.find_first_not_of(u"0123456789") == TextView::npos;
-        return isNumber || EqualIgnoringCase(word, u"Then") || EqualIgnoringCase(word, u"Else");
+        const bool isMember = at > 0 && (line_[at - 1] == u'.' || line_[at - 1] == u'!');
+        return !isMember && (EqualIgnoringCase(word, u"Then") || EqualIgnoringCase(word, u"Else"));
     }
 
     // Behind the string, the bracketed name, the word or the single character that begins at `at`.
