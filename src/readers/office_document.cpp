@@ -86,8 +86,7 @@ class DocumentReader {
         document_.problems.push_back(MakeSentence(
             "„[%1]“ ist beschädigt: das Verzeichnis am Ende der Datei fehlt oder ist falsch; was lesbar war, wurde "
             "gelesen; die Datei neu übertragen.",
-            "“[%1]” is damaged: the directory at the end of the file is missing or wrong; what was readable was "
-            "read; "
+            "“[%1]” is damaged: the directory at the end of the file is missing or wrong; what was readable was read; "
             "transfer the file anew.",
             {path_}));
     }
