@@ -9,6 +9,7 @@
 #include "vba/characters.h"
 #include "vba/header_parentheses.h"
 #include "vba/keyword_role.h"
+#include "vba/plain_line.h"
 #include "vba/spacing.h"
 #include "vba/token_form.h"
 
@@ -27,20 +28,32 @@ class ModuleWriter {
     ModuleWriter(const Tokens& tokens, TextView text, const Capitalisation* capitalisation, Text& out)
         : tokens_(tokens), text_(text), capitalisation_(capitalisation), out_(out), spacing_(tokens) {}
 
+    /// Whether anything but names would change.
+    bool Differs() {
+        std::size_t first = 0;
+        while (tokens_[first].kind != TokenKind::EndOfText && !hasChanged_) {
+            const std::size_t end = FindEndOfPlainLine(tokens_, text_, first);
+            first = (end == kNoToken ? TakeLine(first) : end) + 1;
+        }
+        return hasChanged_;
+    }
+
     bool Run() {
         std::size_t first = 0;
-        while (tokens_[first].kind != TokenKind::EndOfText) {
-            bool isReadable = true;
-            const std::size_t end = FindLineEnd(first, isReadable);
-            if (isReadable) WriteLine(first, end);
-            first = end + 1;
-        }
+        while (tokens_[first].kind != TokenKind::EndOfText) first = TakeLine(first) + 1;
         if (!hasChanged_) return false;
         out_.append(text_.substr(done_));
         return true;
     }
 
   private:
+    std::size_t TakeLine(std::size_t first) {
+        bool isReadable = true;
+        const std::size_t end = FindLineEnd(first, isReadable);
+        if (isReadable) WriteLine(first, end);
+        return end;
+    }
+
     // The `EndOfLine` of the logical line that begins with token `first`. A line is readable if it holds no unknown
     // character, no open parenthesis and no mark without what it marks. Attributes are never rewritten.
     std::size_t FindLineEnd(std::size_t first, bool& isReadable) const {
@@ -209,7 +222,7 @@ void Canonicaliser::Learn(const Tokens& tokens, TextView text) {
     Module module;
     module.names = capitalisation_.Learn(tokens, text);
     Text unused;
-    module.differsInForm = ModuleWriter(tokens, text, nullptr, unused).Run();
+    module.differsInForm = ModuleWriter(tokens, text, nullptr, unused).Differs();
     modules_.push_back(std::move(module));
 }
 

@@ -22,18 +22,27 @@ Capitalisation::Capitalisation() {
     }
 }
 
+// A word is entered when it is met for the first time and when it is first declared; a third time would tell nothing.
 std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView text) {
     DeclarationReader declarations;
     std::vector<std::uint32_t> held;
     ++modules_;
     for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
-        const bool declares = declarations.Declares(tokens[i], tokens[i + 1]);
-        if (!HasProjectCapitalisation(tokens[i])) continue;
-        const std::uint32_t number = names_.Add(NameOf(tokens[i], text), declares ? NameRank::Declared : NameRank::Met);
-        if (number >= lastModule_.size()) lastModule_.resize(2 * std::size_t{number} + 1);
-        if (lastModule_[number] == modules_) continue;
-        lastModule_[number] = modules_;
-        held.push_back(number);
+        const Token& token = tokens[i];
+        const bool declares = declarations.Declares(token, tokens[i + 1]);
+        if (!HasProjectCapitalisation(token)) continue;
+        if (token.word == kNoWord) {
+            held.push_back(names_.Add(NameOf(token, text), declares ? NameRank::Declared : NameRank::Met));
+            continue;
+        }
+        if (token.word >= words_.size()) words_.resize(2 * std::size_t{token.word} + 64);
+        Word& word = words_[token.word];
+        const bool isNews = word.lastModule == 0 || (declares && !word.isDeclared);
+        if (isNews) word.name = names_.Add(NameOf(token, text), declares ? NameRank::Declared : NameRank::Met);
+        word.isDeclared |= declares;
+        if (word.lastModule == modules_) continue;
+        word.lastModule = modules_;
+        held.push_back(word.name);
     }
     return held;
 }

@@ -20,7 +20,8 @@ class Capitalisation {
     void LearnDeclared(TextView name) { names_.Add(name, NameRank::Declared); }
 
     /// Takes the names of one module: its tokens with `HasProjectCapitalisation`. The order of the calls decides which
-    /// declaration is the first. Returns the numbers of the names that the module holds, each once.
+    /// declaration is the first. Returns the numbers of the names that the module holds, some of them repeatedly. The
+    /// words of the tokens bear the numbers of one table in all calls.
     std::vector<std::uint32_t> Learn(const Tokens& tokens, TextView text);
 
     /// The capitalisation of a name that was learned. Asks for nothing but the name: whether a word stands for a
@@ -32,9 +33,16 @@ class Capitalisation {
     bool Varies(std::uint32_t number) const { return names_.Varies(number); }
 
   private:
+    // What has been learned of a word in the capitalisation in which it stands.
+    struct Word {
+        std::uint32_t name = 0;        // its number
+        std::uint32_t lastModule = 0;  // the last module that held it, counted from 1; 0 if none did
+        bool isDeclared = false;
+    };
+
     SpellingTable names_;
     std::uint32_t modules_ = 0;
-    std::vector<std::uint32_t> lastModule_;  // by number of the name: the last module that held it, counted from 1
+    std::vector<Word> words_;  // by the word's number
 };
 
 /// True for tokens whose capitalisation the project decides: names without brackets that are no fixed word of VBA, and

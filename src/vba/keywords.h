@@ -38,4 +38,13 @@ bool IsReserved(Keyword keyword);
 /// True for words that a project may declare as a name of its own: `Name`, `Line`, `Text`; False for `Date` and `Dim`.
 bool IsContextual(Keyword keyword);
 
+/// True for `DefBool` to `DefVar`.
+bool IsRangeStatement(Keyword keyword);
+
+/// True for the reserved words among the names of types: `Integer`, `Variant`.
+bool IsTypeName(Keyword keyword);
+
+/// True for the words that are values: `True`, `Nothing`.
+bool IsLiteralWord(Keyword keyword);
+
 }  // namespace zentlor::vba

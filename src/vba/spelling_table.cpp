@@ -1,6 +1,7 @@
 // Names in ASCII, nearly all of them, are hashed four characters at a time with the bit set that tells small letters
 // from capitals; names with other letters are folded first. The spelling that a name has in the table is compared
-// first, since it is nearly always the one that was asked for.
+// first, since it is nearly always the one that was asked for. Letters are kept in their narrow form: the editor turns
+// full-width letters into ASCII ones.
 
 #include "vba/spelling_table.h"
 
@@ -13,7 +14,6 @@ namespace zentlor::vba {
 namespace {
 
 constexpr std::size_t kFirstSlots = 4096;
-constexpr std::size_t kBlockLength = 16384;
 constexpr std::uint64_t kCaseBits = 0x0020002000200020;
 constexpr std::uint64_t kWideBits = 0xFF80FF80FF80FF80;
 
@@ -64,7 +64,7 @@ std::uint32_t SpellingTable::Add(TextView name, NameRank rank) {
     const std::uint64_t hash = HashName(name);
     const std::size_t slot = FindSlot(name, hash);
     if (slots_[slot] == 0) {
-        const TextView kept = Keep(name);
+        const TextView kept = spellings_.Keep(name, FoldWidth);
         entries_.push_back({hash, kept, rank, kept != name});
         slots_[slot] = static_cast<std::uint32_t>(entries_.size());
         if (entries_.size() * 2 > slots_.size()) Grow();
@@ -76,7 +76,7 @@ std::uint32_t SpellingTable::Add(TextView name, NameRank rank) {
     if (!isSame) entry.varies = true;
     if (rank > entry.rank) {
         entry.rank = rank;
-        if (!isSame) entry.spelling = Keep(name);
+        if (!isSame) entry.spelling = spellings_.Keep(name, FoldWidth);
     }
     return number;
 }
@@ -109,20 +109,6 @@ void SpellingTable::Grow() {
         larger[slot] = static_cast<std::uint32_t>(i + 1);
     }
     slots_ = std::move(larger);
-}
-
-// The letters are kept in their narrow form: the editor turns full-width letters into ASCII ones.
-TextView SpellingTable::Keep(TextView name) {
-    if (blocks_.empty() || free_ < name.size()) {
-        const std::size_t length = std::max(kBlockLength, name.size());
-        blocks_.push_back(std::make_unique<char16_t[]>(length));
-        blockEnd_ = blocks_.back().get() + length;
-        free_ = length;
-    }
-    char16_t* start = blockEnd_ - free_;
-    std::transform(name.begin(), name.end(), start, FoldWidth);
-    free_ -= name.size();
-    return {start, name.size()};
 }
 
 }  // namespace zentlor::vba

@@ -5,10 +5,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 #include "core/utilities/text.h"
+#include "core/utilities/text_store.h"
 
 namespace zentlor::vba {
 
@@ -42,13 +42,10 @@ class SpellingTable {
 
     std::size_t FindSlot(TextView name, std::uint64_t hash) const;
     void Grow();
-    TextView Keep(TextView name);
 
     std::vector<Entry> entries_;
     std::vector<std::uint32_t> slots_;  // index into `entries_` + 1, or 0; their number is a power of two
-    std::vector<std::unique_ptr<char16_t[]>> blocks_;
-    char16_t* blockEnd_ = nullptr;
-    std::size_t free_ = 0;  // unused characters at the end of the last block
+    TextStore spellings_;
 };
 
 }  // namespace zentlor::vba

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/analysis/words.h"
 #include "core/utilities/text.h"
 #include "vba/keywords.h"
 
@@ -64,7 +65,7 @@ enum TokenFlag : std::uint8_t {
     kTypeCharacter = 2,  ///< Name whose last character is one of "%&^!#@$".
     kBracketed = 4,      ///< Name in brackets: `[Name]`; the brackets are part of the token.
     kUnterminated = 8,   ///< String whose closing mark is missing: it ends with its line.
-    kWide = 16,          ///< The token holds characters outside of ASCII.
+    kRespelled = 16,     ///< Word in which the editor would change letters if it stood for its keyword.
 };
 
 /// Positions and lengths are in UTF-16 code units from the text's start.
@@ -73,20 +74,21 @@ struct Token {
     std::uint32_t length = 0;
     TokenKind kind = TokenKind::EndOfText;
     std::uint8_t flags = 0;
-    std::uint16_t id = 0;  ///< An `Operator` for operators, else a `Keyword` or 0.
+    std::uint16_t id = 0;          ///< An `Operator` for operators, else a `Keyword` or 0.
+    std::uint32_t word = kNoWord;  ///< Of a name or a keyword: the word's number in the project's table.
 
     Keyword keyword() const { return kind == TokenKind::Operator ? Keyword::None : static_cast<Keyword>(id); }
     Operator op() const { return kind == TokenKind::Operator ? static_cast<Operator>(id) : Operator::None; }
     /// True for that word, unless it is a member; a directive is no such word.
-    bool Is(Keyword word) const { return IsWord() && keyword() == word && !Has(kMember); }
-    bool Is(Operator which) const { return op() == which; }
-    bool Is(TokenKind which) const { return kind == which; }
+    bool Is(Keyword wanted) const { return IsWord() && keyword() == wanted && !Has(kMember); }
+    bool Is(Operator wanted) const { return op() == wanted; }
+    bool Is(TokenKind wanted) const { return kind == wanted; }
     bool Has(TokenFlag flag) const { return (flags & flag) != 0; }
     bool IsWord() const { return kind == TokenKind::Name || kind == TokenKind::Keyword; }
     std::uint32_t End() const { return offset + length; }
 };
 
-static_assert(sizeof(Token) == 12);
+static_assert(sizeof(Token) == 16);
 
 using Tokens = std::vector<Token>;
 

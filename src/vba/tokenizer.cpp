@@ -15,7 +15,12 @@ namespace {
 
 class Scanner {
   public:
-    Scanner(TextView text, Tokens& tokens) : text_(text), tokens_(tokens) {}
+    Scanner(TextView text, std::span<const WordPlace> words, std::vector<WordMeaning>& meanings, Tokens& tokens)
+        : text_(text),
+          nextWord_(words.data()),
+          endOfWords_(words.data() + words.size()),
+          meanings_(meanings),
+          tokens_(tokens) {}
 
     void Run() {
         while (true) {
@@ -46,13 +51,15 @@ class Scanner {
         return place;
     }
 
-    void Add(TokenKind kind, std::size_t length, std::uint16_t id = 0, std::uint8_t flags = 0) {
+    void Add(TokenKind kind, std::size_t length, std::uint16_t id = 0, std::uint8_t flags = 0,
+             std::uint32_t word = kNoWord) {
         Token token;
         token.offset = static_cast<std::uint32_t>(at_);
         token.length = static_cast<std::uint32_t>(length);
         token.kind = kind;
         token.flags = flags;
         token.id = id;
+        token.word = word;
         tokens_.push_back(token);
         if (kind != TokenKind::Continuation) previous_ = token;
         at_ += length;
@@ -88,27 +95,57 @@ class Scanner {
     }
 
     void ScanWord() {
-        std::size_t end = at_;
-        while (end < text_.size() && text_[end] < 128 && (kCharacterTable[text_[end]] & kNamePart) != 0) ++end;
-        std::uint8_t flags = 0;
-        if (end < text_.size() && text_[end] >= 128) {
-            const std::size_t narrowEnd = end;
-            while (HasTraitAt(end, kNamePart)) ++end;
-            if (end > narrowEnd) flags = kWide;
-        }
+        std::uint32_t number = kNoWord;
+        const WordMeaning word = MeaningHere(number);
+        std::size_t end = at_ + word.length;
+        std::uint8_t flags = word.flags;
         if (previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang)) flags |= kMember;
-        const Keyword keyword = KeywordOf(text_.substr(at_, end - at_), flags);
-        const bool isKeyword = IsReserved(keyword) && (flags & kMember) == 0;
-        if (!isKeyword && IsTypeCharacter(end, keyword)) {
+        const bool isKeyword = word.isReserved && (flags & kMember) == 0;
+        if (!isKeyword && IsTypeCharacter(end, word.keyword)) {
             flags |= kTypeCharacter;
             ++end;
         }
-        if (keyword == Keyword::Rem && isKeyword) return ScanComment(end - at_, keyword);
-        Add(isKeyword ? TokenKind::Keyword : TokenKind::Name, end - at_, static_cast<std::uint16_t>(keyword), flags);
+        if (word.keyword == Keyword::Rem && isKeyword) return ScanComment(end - at_, word.keyword);
+        Add(isKeyword ? TokenKind::Keyword : TokenKind::Name, end - at_, static_cast<std::uint16_t>(word.keyword),
+            flags, number);
     }
 
-    static Keyword KeywordOf(TextView word, std::uint8_t flags) {
-        if ((flags & kWide) == 0) return FindKeyword(word);
+    // The word that begins here. Its number, if it has one: words with foreign letters are not in the project's table,
+    // or only parts of them.
+    WordMeaning MeaningHere(std::uint32_t& number) {
+        while (nextWord_ != endOfWords_ && nextWord_->offset < at_) ++nextWord_;
+        if (nextWord_ == endOfWords_ || nextWord_->offset != at_) return ReadWord();
+        if (nextWord_->number >= meanings_.size()) meanings_.resize(2 * std::size_t{nextWord_->number} + 64);
+        WordMeaning& known = meanings_[nextWord_->number];
+        if (known.length == 0) {
+            std::size_t end = at_;
+            while (end < text_.size() && IsIndexCharacter(text_[end])) ++end;
+            known = MeaningOf(text_.substr(at_, end - at_));
+        }
+        const std::size_t end = at_ + known.length;
+        if (end < text_.size() && text_[end] >= 128 && HasTrait(text_[end], kNamePart)) return ReadWord();
+        number = nextWord_->number;
+        return known;
+    }
+
+    WordMeaning ReadWord() const {
+        std::size_t end = at_;
+        while (HasTraitAt(end, kNamePart)) ++end;
+        return MeaningOf(text_.substr(at_, end - at_));
+    }
+
+    static WordMeaning MeaningOf(TextView word) {
+        WordMeaning meaning;
+        meaning.length = static_cast<std::uint32_t>(word.size());
+        meaning.keyword = KeywordOf(word);
+        meaning.isReserved = IsReserved(meaning.keyword);
+        const bool isRespelled = meaning.keyword == Keyword::EndIf ||
+                                 (meaning.keyword != Keyword::None && word != Spelling(meaning.keyword));
+        if (isRespelled) meaning.flags = kRespelled;
+        return meaning;
+    }
+
+    static Keyword KeywordOf(TextView word) {
         char16_t narrow[16];
         if (word.size() > std::size(narrow)) return Keyword::None;
         for (std::size_t i = 0; i < word.size(); ++i) {
@@ -263,7 +300,7 @@ class Scanner {
         const std::size_t start = SkipBlanks(at_ + 1);
         std::size_t end = start;
         while (HasTraitAt(end, kNamePart)) ++end;
-        const Keyword keyword = KeywordOf(text_.substr(start, end - start), kWide);
+        const Keyword keyword = KeywordOf(text_.substr(start, end - start));
         switch (keyword) {
             case Keyword::If:
             case Keyword::ElseIf:
@@ -394,6 +431,9 @@ class Scanner {
     }
 
     TextView text_;
+    const WordPlace* nextWord_;
+    const WordPlace* endOfWords_;
+    std::vector<WordMeaning>& meanings_;
     Tokens& tokens_;
     std::size_t at_ = 0;
     std::size_t unclosedUntil_ = 0;  // no "]" stands in front of this place
@@ -403,16 +443,16 @@ class Scanner {
 
 }  // namespace
 
-void Tokenize(TextView text, Tokens& tokens) {
+void Tokenizer::Read(TextView text, std::span<const WordPlace> words, Tokens& tokens) {
     tokens.clear();
     // Growing would hold the tokens of a large module twice; what is reserved and never written costs nothing.
     tokens.reserve(text.size() / 2 + 8);
-    Scanner(text, tokens).Run();
+    Scanner(text, words, meanings_, tokens).Run();
 }
 
 Tokens Tokenize(TextView text) {
     Tokens tokens;
-    Tokenize(text, tokens);
+    Tokenizer().Read(text, {}, tokens);
     return tokens;
 }
 

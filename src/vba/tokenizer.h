@@ -3,15 +3,35 @@
 // Cuts a module's text into tokens after [MS-VBAL] 3.2 and 3.3. One pass, in time linear in the text, without recursion
 // and without allocation per token. Nothing is refused: what cannot be read becomes a token of kind `Unknown`.
 
+#include <span>
+#include <vector>
+
+#include "core/analysis/words.h"
 #include "vba/token.h"
 
 namespace zentlor::vba {
 
-/// The tokens of `text`, whose lines end in a line feed. The last line needs none. The last token is always
-/// `EndOfText`, and in front of it, unless the text is empty, stands an `EndOfLine`.
-Tokens Tokenize(TextView text);
+/// What a word of letters, digits and "_" is, wherever it stands.
+struct WordMeaning {
+    std::uint32_t length = 0;  ///< in characters; 0 while nothing is known of the word
+    Keyword keyword = Keyword::None;
+    bool isReserved = false;
+    std::uint8_t flags = 0;  ///< `kRespelled` or none
+};
 
-/// The same into `tokens`, whose memory is used again.
-void Tokenize(TextView text, Tokens& tokens);
+/// Reads the modules of one project. Remembers what each of its words is.
+class Tokenizer {
+  public:
+    /// The tokens of `text`, whose lines end in a line feed; the last line needs none. The last token is always
+    /// `EndOfText`, and in front of it, unless the text is empty, stands an `EndOfLine`. `words` are the words of the
+    /// text as the project's table gives them; the tokens tell their numbers. The memory of `tokens` is used again.
+    void Read(TextView text, std::span<const WordPlace> words, Tokens& tokens);
+
+  private:
+    std::vector<WordMeaning> meanings_;  // by the word's number
+};
+
+/// The same for a text of its own: no token tells the number of its word.
+Tokens Tokenize(TextView text);
 
 }  // namespace zentlor::vba

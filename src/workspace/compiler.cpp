@@ -8,42 +8,77 @@ namespace zentlor::workspace {
 
 namespace {
 
-void TokenizeTimed(const readers::SourceModule& module, vba::Tokens& tokens, StageTimes* times) {
-    const Stopwatch watch(times, &StageTimes::tokens);
-    vba::Tokenize(module.code, tokens);
-}
+class Compiler {
+  public:
+    Compiler(std::vector<readers::SourceModule>& modules, bool keepRawCode, StageTimes* times)
+        : modules_(modules), keepRawCode_(keepRawCode), times_(times) {
+        result_.wordPlaces.resize(modules.size());
+        result_.rawCode.resize(modules.size());
+    }
+
+    CompiledModules Run() {
+        for (std::size_t i = 0; i < modules_.size(); ++i) {
+            ReadWords(i);
+            ReadTokens(i);
+            LearnNames(i);
+            CheckSyntax(i);
+        }
+        // Only now are all names known: a use may stand in front of its declaration.
+        for (std::size_t i = 0; i < modules_.size(); ++i) {
+            if (!canonicaliser_.MayChange(i)) continue;
+            ReadTokens(i);
+            if (Rewrite(i)) ReadWords(i);
+        }
+        return std::move(result_);
+    }
+
+  private:
+    void ReadWords(std::size_t i) {
+        const Stopwatch watch(times_, &StageTimes::index);
+        result_.wordPlaces[i] = result_.words.Read(modules_[i].code);
+    }
+
+    void ReadTokens(std::size_t i) {
+        const Stopwatch watch(times_, &StageTimes::tokens);
+        tokenizer_.Read(modules_[i].code, result_.wordPlaces[i], tokens_);
+    }
+
+    void LearnNames(std::size_t i) {
+        const Stopwatch watch(times_, &StageTimes::canonical);
+        canonicaliser_.LearnName(modules_[i].name);
+        canonicaliser_.Learn(tokens_, modules_[i].code);
+    }
+
+    void CheckSyntax(std::size_t i) {
+        const Stopwatch watch(times_, &StageTimes::syntax);
+        for (vba::SyntaxError& error : vba::CheckSyntax(modules_[i].code, tokens_)) {
+            result_.errors.push_back({i, std::move(error)});
+        }
+    }
+
+    bool Rewrite(std::size_t i) {
+        const Stopwatch watch(times_, &StageTimes::canonical);
+        Text& code = modules_[i].code;
+        Text canonical;
+        if (!canonicaliser_.Write(tokens_, code, canonical)) return false;
+        if (keepRawCode_) result_.rawCode[i] = std::move(code);
+        code = std::move(canonical);
+        return true;
+    }
+
+    std::vector<readers::SourceModule>& modules_;
+    bool keepRawCode_;
+    StageTimes* times_;
+    CompiledModules result_;
+    vba::Tokenizer tokenizer_;
+    vba::Canonicaliser canonicaliser_;
+    vba::Tokens tokens_;  // of one module at a time: those of a whole project would be larger than its text
+};
 
 }  // namespace
 
 CompiledModules Compile(std::vector<readers::SourceModule>& modules, bool keepRawCode, StageTimes* times) {
-    CompiledModules result;
-    result.rawCode.resize(modules.size());
-    vba::Canonicaliser canonicaliser;
-    vba::Tokens tokens;  // of one module at a time: those of a whole project would be larger than its text
-    for (std::size_t i = 0; i < modules.size(); ++i) {
-        TokenizeTimed(modules[i], tokens, times);
-        {
-            const Stopwatch watch(times, &StageTimes::canonical);
-            canonicaliser.LearnName(modules[i].name);
-            canonicaliser.Learn(tokens, modules[i].code);
-        }
-        const Stopwatch watch(times, &StageTimes::syntax);
-        for (vba::SyntaxError& error : vba::CheckSyntax(modules[i].code, tokens)) {
-            result.errors.push_back({i, std::move(error)});
-        }
-    }
-    // Only now are all names known: a use may stand in front of its declaration.
-    for (std::size_t i = 0; i < modules.size(); ++i) {
-        if (!canonicaliser.MayChange(i)) continue;
-        TokenizeTimed(modules[i], tokens, times);
-        const Stopwatch watch(times, &StageTimes::canonical);
-        Text& code = modules[i].code;
-        Text canonical;
-        if (!canonicaliser.Write(tokens, code, canonical)) continue;
-        if (keepRawCode) result.rawCode[i] = std::move(code);
-        code = std::move(canonical);
-    }
-    return result;
+    return Compiler(modules, keepRawCode, times).Run();
 }
 
 }  // namespace zentlor::workspace

@@ -150,12 +150,14 @@ class Opener {
         // A project of loose modules has no file: it is known by its folder, whose separator tells the difference.
         Text fileName = FromUtf8(AbsolutePath(document.path));
         if (!isDocument && !fileName.ends_with(u'/')) fileName += u'/';
-        opened.project = std::make_unique<VBProject>(document.projectName, std::move(fileName));
+        opened.project =
+            std::make_unique<VBProject>(document.projectName, std::move(fileName), std::move(compiled.words));
         for (std::size_t i = 0; i < document.modules.size(); ++i) {
             readers::SourceModule& module = document.modules[i];
             opened.origins.push_back({std::move(module.path), std::move(module.fileLines), std::move(module.header),
                                       std::move(module.innerAttributes), std::move(compiled.rawCode[i])});
-            opened.project->Add(std::move(module.name), static_cast<int>(module.type), std::move(module.code));
+            opened.project->Add(std::move(module.name), static_cast<int>(module.type), std::move(module.code),
+                                std::move(compiled.wordPlaces[i]));
         }
         document.modules.clear();
         opened.document = std::move(document);

@@ -2,23 +2,26 @@
 
 #include <gtest/gtest.h>
 
+#include "core/utilities/encoding.h"
 #include "vba/canonical.h"
 #include "vba/tokenizer.h"
 
 namespace zentlor::test {
 
 std::vector<Text> CanonicalForms(const std::vector<Text>& modules, const std::vector<TextView>& components) {
+    WordTable words;
+    vba::Tokenizer tokenizer;
     vba::Canonicaliser canonicaliser;
     std::vector<vba::Tokens> tokens;
     for (TextView component : components) canonicaliser.LearnName(component);
     for (const Text& module : modules) {
-        tokens.push_back(vba::Tokenize(module));
+        tokenizer.Read(module, words.Read(module), tokens.emplace_back());
         canonicaliser.Learn(tokens.back(), module);
     }
     std::vector<Text> forms = modules;
     for (std::size_t i = 0; i < modules.size(); ++i) {
         const bool changes = canonicaliser.Write(tokens[i], modules[i], forms[i]);
-        EXPECT_TRUE(canonicaliser.MayChange(i) || !changes) << "module " << i << " changes unexpectedly";
+        EXPECT_TRUE(canonicaliser.MayChange(i) || !changes) << "changes unexpectedly: " << ToUtf8(modules[i]);
     }
     return forms;
 }

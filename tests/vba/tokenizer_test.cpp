@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <tuple>
 
 #include "core/utilities/encoding.h"
 #include "printed_tokens.h"
@@ -148,6 +149,22 @@ bool IsBlank(char16_t c) {
     return c == u' ' || c == u'\t' || c == u'　' || c == u'\r';
 }
 
+// The project's words give the same tokens as the text alone, and a word keeps its number.
+void CheckNumbers(TextView code, WordTable& words, vba::Tokenizer& tokenizer) {
+    Tokens numbered;
+    tokenizer.Read(code, words.Read(code), numbered);
+    const Tokens plain = Tokenize(code);
+    ASSERT_EQ(numbered.size(), plain.size()) << ToUtf8(code);
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const Token& token = numbered[i];
+        ASSERT_EQ(std::tie(token.offset, token.length, token.kind, token.flags, token.id),
+                  std::tie(plain[i].offset, plain[i].length, plain[i].kind, plain[i].flags, plain[i].id))
+            << ToUtf8(code);
+        const bool hasNumber = token.word != kNoWord;
+        ASSERT_EQ(token.word, hasNumber ? words.Find(vba::NameOf(token, code)) : kNoWord) << ToUtf8(code);
+    }
+}
+
 // The tokens lie in order and apart, nothing but blanks lies between them, and each line feed ends one token.
 void CheckCover(TextView code) {
     const Tokens tokens = Tokenize(code);
@@ -174,6 +191,40 @@ TEST(Tokenizer, CoversAnyText) {
         Text code;
         for (std::size_t length = random() % 60; length > 0; --length) code += characters[random() % characters.size()];
         CheckCover(code);
+    }
+}
+
+TEST(Tokenizer, TakesTheWordsOfTheProject) {
+    const TextView pieces[] = {u"a",
+                               u"dim",
+                               u"Dim",
+                               u"Rem",
+                               u"Left$",
+                               u"einRechtLangerName",
+                               u"einRechtLangerName2",
+                               u"sechzehnZeichen1",
+                               u"Müller",
+                               u"é",
+                               u"Ａ",
+                               u"_",
+                               u"12",
+                               u"x",
+                               u" ",
+                               u"\n",
+                               u".",
+                               u"\"",
+                               u"'",
+                               u"[",
+                               u"]",
+                               u"#",
+                               u"&H"};
+    WordTable words;
+    vba::Tokenizer tokenizer;
+    std::mt19937 random(5);
+    for (int round = 0; round < 4000; ++round) {
+        Text code;
+        for (std::size_t count = random() % 20; count > 0; --count) code += pieces[random() % std::size(pieces)];
+        CheckNumbers(code, words, tokenizer);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include "core/utilities/character_blocks.h"
 
@@ -177,9 +178,21 @@ VBComponent::VBComponent(const VBProject& project, std::uint32_t index, Text nam
     : project_(project), index_(index), name_(std::move(name)), type_(type), code_(*this, std::move(code)) {}
 
 VBComponent& VBProject::Add(Text name, int type, Text code) {
-    words_.reset();
-    const auto index = static_cast<std::uint32_t>(components_.size());
-    components_.push_back(std::make_unique<VBComponent>(*this, index, std::move(name), type, std::move(code)));
+    std::vector<WordPlace> words = words_.Read(code);
+    return Add(std::move(name), type, std::move(code), std::move(words));
+}
+
+VBComponent& VBProject::Add(Text name, int type, Text code, std::vector<WordPlace> words) {
+    if (index_) {
+        for (const auto& component : components_) {
+            const TextView text = component->CodeModule().AllText();
+            wordPlaces_.push_back({text.size(), words_.Read(text)});
+        }
+        index_.reset();
+    }
+    const auto number = static_cast<std::uint32_t>(components_.size());
+    components_.push_back(std::make_unique<VBComponent>(*this, number, std::move(name), type, std::move(code)));
+    wordPlaces_.push_back({components_.back()->CodeModule().AllText().size(), std::move(words)});
     return *components_.back();
 }
 
@@ -191,13 +204,8 @@ const VBComponent& VBProject::Item(TextView name) const {
 }
 
 const WordIndex& VBProject::Words() const {
-    if (!words_) {
-        std::vector<TextView> texts;
-        texts.reserve(components_.size());
-        for (const auto& component : components_) texts.push_back(component->CodeModule().AllText());
-        words_ = std::make_unique<WordIndex>(texts);
-    }
-    return *words_;
+    if (!index_) index_ = std::make_unique<WordIndex>(words_, std::exchange(wordPlaces_, {}));
+    return *index_;
 }
 
 FailureReporter& VBProject::Failures() const {

@@ -133,12 +133,16 @@ class VBComponent {
 /// A project: its components in the editor's order, and the index of its words.
 class VBProject {
   public:
-    explicit VBProject(Text name, Text fileName = {}) : name_(std::move(name)), fileName_(std::move(fileName)) {}
+    /// `words` are those that were met when the code was read.
+    explicit VBProject(Text name, Text fileName = {}, WordTable words = {})
+        : name_(std::move(name)), fileName_(std::move(fileName)), words_(std::move(words)) {}
     VBProject(const VBProject&) = delete;
     VBProject& operator=(const VBProject&) = delete;
 
     /// Adds a component behind the others. Not while an analysis is under way.
     VBComponent& Add(Text name, int type, Text code);
+    /// The same where the words of `code` are known, by their numbers in the table that the project was given.
+    VBComponent& Add(Text name, int type, Text code, std::vector<WordPlace> words);
 
     const Text& Name() const { return name_; }
     /// Full path of the project's file.
@@ -158,7 +162,9 @@ class VBProject {
     Text name_;
     Text fileName_;
     std::vector<std::unique_ptr<VBComponent>> components_;
-    mutable std::unique_ptr<WordIndex> words_;
+    WordTable words_;
+    mutable std::vector<ModuleWords> wordPlaces_;  ///< of the components that the index does not hold yet
+    mutable std::unique_ptr<WordIndex> index_;
     FailureReporter* failures_ = nullptr;
 };
 

@@ -1,0 +1,72 @@
+#pragma once
+
+// The words of a project, found once: the tokenizer, the names and the word index all go on from here.
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "core/utilities/text.h"
+#include "core/utilities/text_store.h"
+
+namespace zentlor {
+
+/// The characters of which words are made here: the ASCII letters and digits, "_", and the German letters. All of them
+/// continue a word for a whole-word search and for the use search alike, so that the runs of these characters answer
+/// both; the characters in which the two differ lie beside a run, and the searches look at them there.
+bool IsIndexCharacter(char16_t c);
+
+/// The number of no word.
+inline constexpr std::uint32_t kNoWord = 0xFFFFFFFF;
+
+/// A place where a word begins in a module's text, in characters from its start, and the word's number.
+struct WordPlace {
+    std::uint32_t offset = 0;
+    std::uint32_t number = 0;
+};
+
+/// The different words of a project. They bear numbers from 0, in the order in which they were met; case counts.
+class WordTable {
+  public:
+    WordTable() : slots_(1024) {}
+
+    /// How many different words there are.
+    std::uint32_t Size() const { return static_cast<std::uint32_t>(longWords_.size()); }
+
+    /// The number of a word, or `kNoWord`.
+    std::uint32_t Find(TextView word) const;
+
+    /// The words of a text in order: every run of characters of the index that is as long as it can be. Words that the
+    /// table does not hold yet are added. Linear in the text, which has less than 2^32 characters.
+    std::vector<WordPlace> Read(TextView text);
+
+  private:
+    static constexpr std::size_t kPacked = 16;
+
+    // A word as it is compared: its first kPacked characters with one byte each, and all of it where it is longer.
+    struct Key {
+        std::uint64_t low = 0;
+        std::uint64_t high = 0;
+        TextView text;
+    };
+    struct Slot {
+        std::uint64_t low = 0;
+        std::uint64_t high = 0;
+        std::uint32_t number = kNoWord;
+    };
+
+    static Key KeyOf(TextView word);
+    static Key KeyOf(const std::uint64_t (&packed)[2], TextView word);
+    static std::size_t HashOf(const Key& key);
+    bool Holds(const Slot& slot, const Key& key) const;
+    std::size_t SlotOf(const Key& key) const;
+
+    std::uint32_t NumberOf(const Key& key);
+    void Grow();
+
+    std::vector<Slot> slots_;          // open addressing, a power of two
+    std::vector<TextView> longWords_;  // by number: the whole word if it has more than kPacked characters
+    TextStore store_;
+};
+
+}  // namespace zentlor
