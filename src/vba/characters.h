@@ -16,6 +16,7 @@ enum CharacterTrait : std::uint8_t {
     kNamePart = 4,   ///< A letter, a digit or "_".
     kDigit = 8,
     kHexDigit = 16,
+    kTypeMark = 32,  ///< One of "%&^!#@$", which tell a name's or a number's type.
 };
 
 constexpr std::array<std::uint8_t, 128> MakeCharacterTable() {
@@ -28,6 +29,7 @@ constexpr std::array<std::uint8_t, 128> MakeCharacterTable() {
         table[c - u'a' + u'A'] = table[c];
     }
     table[u'_'] = kNamePart;
+    for (char16_t mark : {u'%', u'&', u'^', u'!', u'#', u'@', u'$'}) table[mark] = kTypeMark;
     return table;
 }
 

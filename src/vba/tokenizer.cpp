@@ -6,12 +6,79 @@
 
 #include "vba/tokenizer.h"
 
+#include <array>
+
 #include "core/utilities/character_blocks.h"
 #include "vba/characters.h"
 #include "vba/date_literal.h"
 
 namespace zentlor::vba {
 namespace {
+
+// What begins with a character.
+enum class Start : std::uint8_t {
+    Unknown,
+    Blank,
+    LineEnd,
+    Word,
+    Number,
+    String,
+    Comment,
+    Underscore,
+    Bracket,
+    Hash,
+    Ampersand,
+    Dot,
+    Pair,    // an operator that may have a second character
+    Single,  // any other operator
+};
+
+struct StartEntry {
+    Start start = Start::Unknown;
+    Operator single = Operator::None;
+};
+
+constexpr std::array<StartEntry, 128> MakeStarts() {
+    std::array<StartEntry, 128> table{};
+    for (std::size_t c = 0; c < table.size(); ++c) {
+        if ((kCharacterTable[c] & kBlank) != 0) table[c].start = Start::Blank;
+        if ((kCharacterTable[c] & kNameStart) != 0) table[c].start = Start::Word;
+        if ((kCharacterTable[c] & kDigit) != 0) table[c].start = Start::Number;
+    }
+    table[u'\n'].start = Start::LineEnd;
+    table[u'"'].start = Start::String;
+    table[u'\''].start = Start::Comment;
+    table[u'_'].start = Start::Underscore;
+    table[u'['].start = Start::Bracket;
+    table[u'#'].start = Start::Hash;
+    table[u'&'].start = Start::Ampersand;
+    table[u'.'].start = Start::Dot;
+    table[u':'] = {Start::Pair, Operator::Colon};
+    table[u'='] = {Start::Pair, Operator::Equal};
+    table[u'<'] = {Start::Pair, Operator::Less};
+    table[u'>'] = {Start::Pair, Operator::Greater};
+    table[u'+'] = {Start::Single, Operator::Plus};
+    table[u'-'] = {Start::Single, Operator::Minus};
+    table[u'*'] = {Start::Single, Operator::Times};
+    table[u'/'] = {Start::Single, Operator::Divide};
+    table[u'\\'] = {Start::Single, Operator::IntegerDivide};
+    table[u'^'] = {Start::Single, Operator::Power};
+    table[u','] = {Start::Single, Operator::Comma};
+    table[u';'] = {Start::Single, Operator::Semicolon};
+    table[u'!'] = {Start::Single, Operator::Bang};
+    table[u'('] = {Start::Single, Operator::OpenParenthesis};
+    table[u')'] = {Start::Single, Operator::CloseParenthesis};
+    table[u'?'] = {Start::Single, Operator::Question};
+    return table;
+}
+constexpr std::array<StartEntry, 128> kStarts = MakeStarts();
+
+// Letters outside of ASCII, the only characters there that have traits once their width is folded, begin words.
+StartEntry StartOf(char16_t c) {
+    const char16_t folded = FoldWidth(c);
+    if (folded < 128) return kStarts[folded];
+    return {HasTrait(folded, kNameStart) ? Start::Word : Start::Unknown, Operator::None};
+}
 
 class Scanner {
   public:
@@ -23,11 +90,12 @@ class Scanner {
           tokens_(tokens) {}
 
     void Run() {
-        while (true) {
-            at_ = SkipSpaces(text_, at_);
-            while (at_ < text_.size() && HasTrait(text_[at_], kBlank)) ++at_;
-            if (at_ == text_.size()) break;
-            ScanToken();
+        while (at_ < text_.size()) {
+            if (text_[at_] == u' ') {
+                ++at_;
+            } else {
+                ScanToken();
+            }
         }
         if (!tokens_.empty() && tokens_.back().kind != TokenKind::EndOfLine) Add(TokenKind::EndOfLine, 0);
         Add(TokenKind::EndOfText, 0);
@@ -69,28 +137,39 @@ class Scanner {
     }
 
     void ScanToken() {
-        const char16_t c = FoldWidth(text_[at_]);
-        if (HasTrait(c, kNameStart)) return ScanWord();
-        if (HasTrait(c, kDigit)) return ScanNumber();
-        switch (c) {
-            case u'\n':
-                return Add(TokenKind::EndOfLine, 1);
-            case u'"':
+        const StartEntry entry = StartOf(text_[at_]);
+        switch (entry.start) {
+            case Start::Unknown:
+                return Add(TokenKind::Unknown, 1);
+            case Start::Blank:
+                ++at_;
+                return;
+            case Start::LineEnd:
+                Add(TokenKind::EndOfLine, 1);
+                at_ = SkipSpaces(text_, at_);
+                return;
+            case Start::Word:
+                return ScanWord();
+            case Start::Number:
+                return ScanNumber();
+            case Start::String:
                 return ScanString();
-            case u'\'':
+            case Start::Comment:
                 return ScanComment(1);
-            case u'_':
+            case Start::Underscore:
                 return ScanUnderscore();
-            case u'[':
+            case Start::Bracket:
                 return ScanBrackets();
-            case u'#':
+            case Start::Hash:
                 return ScanHash();
-            case u'&':
+            case Start::Ampersand:
                 return ScanAmpersand();
-            case u'.':
+            case Start::Dot:
                 return ScanDot();
-            default:
-                return ScanOperator(c);
+            case Start::Pair:
+                return ScanPair(entry.single);
+            case Start::Single:
+                return AddOperator(entry.single, 1);
         }
     }
 
@@ -158,6 +237,7 @@ class Scanner {
     // Whether the character at `place`, directly behind a name, is the name's type character. "!" in front of a name
     // asks for a member, "&" in front of an operand joins, and "^" raises to a power where an operand follows.
     bool IsTypeCharacter(std::size_t place, Keyword keyword) const {
+        if (!HasTraitAt(place, kTypeMark)) return false;
         switch (CharacterAt(place)) {
             case u'%':
             case u'@':
@@ -373,52 +453,11 @@ class Scanner {
         AddOperator(Operator::Dot, 1);
     }
 
-    void ScanOperator(char16_t c) {
-        switch (c) {
-            case u'+':
-                return AddOperator(Operator::Plus, 1);
-            case u'-':
-                return AddOperator(Operator::Minus, 1);
-            case u'*':
-                return AddOperator(Operator::Times, 1);
-            case u'/':
-                return AddOperator(Operator::Divide, 1);
-            case u'\\':
-                return AddOperator(Operator::IntegerDivide, 1);
-            case u'^':
-                return AddOperator(Operator::Power, 1);
-            case u',':
-                return AddOperator(Operator::Comma, 1);
-            case u';':
-                return AddOperator(Operator::Semicolon, 1);
-            case u'!':
-                return AddOperator(Operator::Bang, 1);
-            case u'(':
-                return AddOperator(Operator::OpenParenthesis, 1);
-            case u')':
-                return AddOperator(Operator::CloseParenthesis, 1);
-            case u'?':
-                return AddOperator(Operator::Question, 1);
-            case u':':
-            case u'=':
-            case u'<':
-            case u'>':
-                return ScanPair(c);
-            default:
-                return Add(TokenKind::Unknown, 1);
-        }
-    }
-
     // The operators of two characters, which blanks may part.
-    void ScanPair(char16_t first) {
+    void ScanPair(Operator single) {
         const std::size_t place = SkipBlanks(at_ + 1);
-        const char16_t second = CharacterAt(place);
-        const Operator pair = PairOf(first, second);
+        const Operator pair = PairOf(FoldWidth(text_[at_]), CharacterAt(place));
         if (pair != Operator::None) return AddOperator(pair, place + 1 - at_);
-        const Operator single = first == u':'   ? Operator::Colon
-                                : first == u'=' ? Operator::Equal
-                                : first == u'<' ? Operator::Less
-                                                : Operator::Greater;
         AddOperator(single, 1);
     }
 

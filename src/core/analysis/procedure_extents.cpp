@@ -30,8 +30,7 @@ class StatementReader {
   public:
     explicit StatementReader(TextView statement) : rest_(statement) { SkipSpace(); }
 
-    /// 0 if nothing is left.
-    char16_t PeekCharacter() const { return rest_.empty() ? u'\0' : rest_.front(); }
+    TextView Rest() const { return rest_; }
 
     TextView PeekWord() const {
         std::size_t length = 0;
@@ -107,26 +106,25 @@ bool IsProcedureEnd(TextView statement) {
     return reader.Take(u"End") && (reader.Take(u"Sub") || reader.Take(u"Function") || reader.Take(u"Property"));
 }
 
-// The first character of a logical line that is no blank and no continuation, 0 if there is none.
-char16_t FirstCharacter(TextView line) {
+// The offset of a logical line's first character that is no blank and no continuation, or the line's size.
+std::size_t FindFirstCharacter(TextView line) {
     const std::size_t first = SkipSpaces(line, 0);
-    if (first == line.size()) return u'\0';
-    const bool isPlain = line[first] != u'\t' && line[first] != u'_';
-    return isPlain ? line[first] : StatementReader(line).PeekCharacter();
+    const bool isPlain = first == line.size() || (line[first] != u'\t' && line[first] != u'_');
+    return isPlain ? first : line.size() - StatementReader(line).Rest().size();
 }
 
-bool IsCommentLine(TextView line, char16_t first) {
-    return first == u'\'' || (FoldCase(first) == u'r' && StatementReader(line).Take(u"Rem"));
+bool IsComment(TextView code) {
+    return code.front() == u'\'' || (FoldCase(code.front()) == u'r' && StatementReader(code).Take(u"Rem"));
 }
 
-// The first letters of words in front of which a procedure begins, and of those with which a line can end one; most
-// lines of a program are told apart by them alone.
-bool MayBeHeader(char16_t first) {
-    const char16_t c = FoldCase(first);
+// Most lines of a program neither begin nor end a procedure, and their first letters tell it.
+bool MayBeHeader(TextView code) {
+    const char16_t c = FoldCase(code.front());
     return c == u'f' || c == u'g' || c == u'p' || c == u's';
 }
-bool MayEndProcedure(char16_t first) {
-    return FoldCase(first) == u'e' || (first >= u'0' && first <= u'9');
+bool MayEndProcedure(TextView code) {
+    if (code.front() >= u'0' && code.front() <= u'9') return true;
+    return FoldCase(code.front()) == u'e' && code.size() > 1 && FoldCase(code[1]) == u'n';
 }
 
 // Cuts a logical line into its statements. Colons in strings and in bracketed names separate nothing, and a comment
@@ -214,10 +212,10 @@ class ExtentFinder {
         const int lines = static_cast<int>(lineStarts_.size()) - 1;
         for (int first = 1; first <= lines;) {
             int last = first;
-            while (last < lines && IsContinuedLine(Line(last))) ++last;
+            while (last < lines && IsContinuedLine(Text(last, last))) ++last;
             const TextView line = Text(first, last);
-            const char16_t firstCharacter = FirstCharacter(line);
-            if (!IsCommentLine(line, firstCharacter)) VisitLogicalLine(first, last, line, firstCharacter);
+            const TextView code = line.substr(FindFirstCharacter(line));
+            if (!code.empty()) VisitLogicalLine(first, last, code);
             first = last + 1;
         }
         Finish(lines);
@@ -225,24 +223,24 @@ class ExtentFinder {
     }
 
   private:
-    TextView Line(int number) const { return Text(number, number); }
-
     // Physical lines `first` to `last`, without the last line end.
     TextView Text(int first, int last) const {
         const std::uint32_t begin = lineStarts_[static_cast<std::size_t>(first - 1)];
         return text_.substr(begin, lineStarts_[static_cast<std::size_t>(last)] - begin - 1);
     }
 
-    void VisitLogicalLine(int first, int last, TextView line, char16_t firstCharacter) {
-        const bool bounds = open_ ? MayEndProcedure(firstCharacter) || HoldsColon(line) : MayBeHeader(firstCharacter);
-        if (bounds) {
-            bool startsLine = true;
-            StatementCutter cutter(line);
-            for (TextView statement; cutter.Next(statement); startsLine = false) {
-                VisitStatement(first, last, statement, startsLine);
-            }
+    // `code`: the line from its first character on that is no blank.
+    void VisitLogicalLine(int first, int last, TextView code) {
+        const bool holdsColon = HoldsColon(code);
+        const bool mayBound = open_ ? holdsColon || MayEndProcedure(code) : MayBeHeader(code);
+        const bool isSeen = mayBound || result_.procedures.empty();
+        if (!isSeen || IsComment(code)) return;
+        if (mayBound && holdsColon) {
+            VisitStatements(first, last, code);
+        } else if (mayBound) {
+            VisitStatement(first, last, code, true);
         }
-        if (result_.procedures.empty() && firstCharacter != u'\0') result_.declarationLines = last;
+        if (result_.procedures.empty()) result_.declarationLines = last;
     }
 
     // Lines are asked for from top to bottom.
@@ -250,6 +248,14 @@ class ExtentFinder {
         const auto begin = static_cast<std::size_t>(line.data() - text_.data());
         if (nextColon_ < begin) nextColon_ = FindCharacter(text_, begin, u':');
         return nextColon_ < begin + line.size();
+    }
+
+    void VisitStatements(int first, int last, TextView line) {
+        bool startsLine = true;
+        StatementCutter cutter(line);
+        for (TextView statement; cutter.Next(statement); startsLine = false) {
+            VisitStatement(first, last, statement, startsLine);
+        }
     }
 
     void VisitStatement(int first, int last, TextView statement, bool startsLine) {
@@ -305,11 +311,6 @@ class ExtentFinder {
 };
 
 }  // namespace
-
-bool IsContinuedLine(TextView line) {
-    while (!line.empty() && IsSpace(line.back())) line.remove_suffix(1);
-    return line.size() > 1 && line.back() == u'_' && IsSpace(line[line.size() - 2]);
-}
 
 ModuleExtents FindExtents(TextView text, const std::vector<std::uint32_t>& lineStarts) {
     return ExtentFinder(text, lineStarts).Run();

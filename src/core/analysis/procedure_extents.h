@@ -34,6 +34,11 @@ struct ModuleExtents {
 ModuleExtents FindExtents(TextView text, const std::vector<std::uint32_t>& lineStarts);
 
 /// Whether the language continues this physical line on the next one.
-bool IsContinuedLine(TextView line);
+inline bool IsContinuedLine(TextView line) {
+    while (!line.empty() && (line.back() == u' ' || line.back() == u'\t')) line.remove_suffix(1);
+    if (line.size() < 2 || line.back() != u'_') return false;
+    const char16_t before = line[line.size() - 2];
+    return before == u' ' || before == u'\t';
+}
 
 }  // namespace zentlor

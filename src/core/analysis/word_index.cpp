@@ -18,6 +18,7 @@ WordIndex::WordIndex(const WordTable& words, std::vector<ModuleWords> modules) :
 
     // Counting sort by word: stable, so the places of each word come out in order. While they are put there,
     // starts_[n + 1] is where the next place of word n belongs.
+    passed_.assign(words.Size(), 0);
     starts_.assign(words.Size() + 2, 0);
     for (const ModuleWords& module : modules) {
         for (const WordPlace& word : module.places) ++starts_[word.number + 2];
@@ -32,25 +33,27 @@ WordIndex::WordIndex(const WordTable& words, std::vector<ModuleWords> modules) :
     }
 }
 
-std::span<const Place> WordIndex::PlacesOf(TextView word) const {
-    const std::uint32_t number = words_.Find(word);
-    if (number == kNoWord) return {};
+std::span<const Place> WordIndex::PlacesOfNumber(std::uint32_t number) const {
     return std::span(places_).subspan(starts_[number], starts_[number + 1] - starts_[number]);
 }
 
+std::span<const Place> WordIndex::PlacesOf(TextView word) const {
+    const std::uint32_t number = words_.Find(word);
+    return number == kNoWord ? std::span<const Place>() : PlacesOfNumber(number);
+}
+
 std::span<const Place> WordIndex::PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const {
-    if (word.empty()) return {};
-    Search& search = searches_[(word.front() + word.size()) % searches_.size()];
-    if (!IsSame(search.word, word)) search = {Text(word), PlacesOf(word), 0};
-    const std::span<const Place> all = search.places;
+    const std::uint32_t number = words_.Find(word);
+    if (number == kNoWord) return {};
+    const std::span<const Place> all = PlacesOfNumber(number);
     const Place from = moduleStarts_[module] + fromOffset;
-    std::size_t passed = search.passed;
+    std::uint32_t passed = passed_[number];
     const bool goesOn = passed == 0 || all[passed - 1] < from;
     if (goesOn && passed < all.size() && all[passed] < from) ++passed;
     if (!goesOn || (passed < all.size() && all[passed] < from)) {
-        passed = static_cast<std::size_t>(std::lower_bound(all.begin(), all.end(), from) - all.begin());
+        passed = static_cast<std::uint32_t>(std::lower_bound(all.begin(), all.end(), from) - all.begin());
     }
-    search.passed = passed;
+    passed_[number] = passed;
     return all.subspan(passed);
 }
 

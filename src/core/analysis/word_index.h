@@ -3,7 +3,6 @@
 // Every word of a project with its places, in order. One index over all modules: a question costs what the word's own
 // occurrences cost, however many modules there are.
 
-#include <array>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -32,8 +31,9 @@ class WordIndex {
     /// characters than those of the index.
     std::span<const Place> PlacesOf(TextView word) const;
 
-    /// PlacesOf(word) from an offset in the text of one module on, to the project's end. Remembers the answer: a search
-    /// that goes on from there for the same word costs next to nothing. Not to be called by several threads at once.
+    /// PlacesOf(word) from an offset in the text of one module on, to the project's end. Remembers where that is: a
+    /// search that goes on from there for the same word costs next to nothing. Not to be called by several threads at
+    /// once.
     std::span<const Place> PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const;
 
     /// The number of the module, counted from 0, that holds a place.
@@ -42,15 +42,10 @@ class WordIndex {
     Place StartOf(std::size_t module) const { return moduleStarts_[module]; }
 
   private:
-    // Where the last search of a word ended: its places, and how many of them it left behind.
-    struct Search {
-        Text word;
-        std::span<const Place> places;
-        std::size_t passed = 0;
-    };
+    std::span<const Place> PlacesOfNumber(std::uint32_t number) const;
 
     const WordTable& words_;
-    mutable std::array<Search, 16> searches_;  ///< a few words are searched in turn, procedure after procedure
+    mutable std::vector<std::uint32_t> passed_;  ///< by a word's number: the places that its last search left behind
     std::vector<Place> moduleStarts_;
     std::vector<std::uint32_t> starts_;  ///< by a word's number: where its places begin in places_
     std::vector<Place> places_;

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <tuple>
+#include <utility>
 
 #include "core/utilities/character_blocks.h"
 
@@ -13,39 +15,32 @@ namespace zentlor {
 
 namespace {
 
-constexpr std::array<bool, 256> MakeIndexCharacters() {
-    std::array<bool, 256> table{};
-    for (int c = u'0'; c <= u'9'; ++c) table[static_cast<std::size_t>(c)] = true;
-    for (int c = u'A'; c <= u'Z'; ++c)
-        table[static_cast<std::size_t>(c)] = table[static_cast<std::size_t>(c + 32)] = true;
-    for (const char16_t c : TextView(u"_ßäÄöÖüÜ")) table[c] = true;
-    return table;
-}
-constexpr std::array<bool, 256> kIndexCharacters = MakeIndexCharacters();
-
-// By number of bytes: a mask of that many of the first ones of eight.
-constexpr std::array<std::uint64_t, 9> MakeFirstBytes() {
-    std::array<std::uint64_t, 9> masks{};
-    for (std::size_t count = 1; count <= 8; ++count) masks[count] = ~std::uint64_t{0} >> (64 - 8 * count);
-    return masks;
-}
-constexpr std::array<std::uint64_t, 9> kFirstBytes = MakeFirstBytes();
-
 #if defined(__SSE2__)
 
-// Sixteen characters as sixteen bytes, the first one lowest.
-void PackBlock(const char16_t* block, std::uint64_t (&packed)[2]) {
+// The kBlock characters at `block` as bytes, which the characters of the index fit into. Any other one is 0 or 255, and
+// neither is one of them.
+__m128i BytesOf(const char16_t* block) {
     const __m128i first = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block));
     const __m128i second = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + kBlock / 2));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(packed), _mm_packus_epi16(first, second));
+    return _mm_packus_epi16(first, second);
 }
 
-// The places of the index's characters in the kBlock characters at `block`. All of them have one byte; any other
-// character is 0 or 255 in the bytes, which are none of them.
+// The first `count` characters of a block as bytes, at most kBlock, the first one lowest. The others are 0.
+std::pair<std::uint64_t, std::uint64_t> Pack(const char16_t* block, std::size_t count) {
+    static constexpr std::array<std::uint8_t, 2 * kBlock> kMask = [] {
+        std::array<std::uint8_t, 2 * kBlock> mask{};
+        std::fill_n(mask.begin(), kBlock, 0xFF);
+        return mask;
+    }();
+    const auto* const mask = reinterpret_cast<const __m128i*>(kMask.data() + kBlock - count);
+    const __m128i bytes = _mm_and_si128(BytesOf(block), _mm_loadu_si128(mask));
+    return {static_cast<std::uint64_t>(_mm_cvtsi128_si64(bytes)),
+            static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(bytes, bytes)))};
+}
+
+// The places of the index's characters in the kBlock characters at `block`.
 std::uint32_t PlacesOfIndexCharacters(const char16_t* block) {
-    const __m128i first = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block));
-    const __m128i second = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + kBlock / 2));
-    const __m128i bytes = _mm_packus_epi16(first, second);
+    const __m128i bytes = BytesOf(block);
     const __m128i lower = _mm_or_si128(bytes, _mm_set1_epi8(0x20));
     const auto all = [](int byte) { return _mm_set1_epi8(static_cast<char>(byte)); };
     const auto isInRange = [&](__m128i value, char from, char to) {
@@ -60,11 +55,12 @@ std::uint32_t PlacesOfIndexCharacters(const char16_t* block) {
 
 #else
 
-void PackBlock(const char16_t* block, std::uint64_t (&packed)[2]) {
-    packed[0] = packed[1] = 0;
-    for (std::size_t i = 0; i < kBlock; ++i) {
+std::pair<std::uint64_t, std::uint64_t> Pack(const char16_t* block, std::size_t count) {
+    std::uint64_t packed[2] = {};
+    for (std::size_t i = 0; i < count; ++i) {
         packed[i / 8] |= static_cast<std::uint64_t>(block[i] & 0xFF) << (8 * (i % 8));
     }
+    return {packed[0], packed[1]};
 }
 
 std::uint32_t PlacesOfIndexCharacters(const char16_t* block) {
@@ -75,79 +71,99 @@ std::uint32_t PlacesOfIndexCharacters(const char16_t* block) {
 
 #endif
 
-// Calls `visit` with begin and end of every run of the index's characters. A change from one side of a run's border to
-// the other is a bit that differs from the one in front of it.
+// The borders of the runs of the index's characters, in a text that is read from its start in stretches.
+class BorderFinder {
+  public:
+    static constexpr std::size_t kStretch = 64;
+    static constexpr std::size_t kAtOnce = 8;
+    /// Room for the borders of one stretch, and for what is written behind them.
+    using Borders = std::array<std::uint32_t, kStretch + kAtOnce>;
+
+    /// Writes the borders in the kStretch characters at `stretch`, to which `offset` is added, and says how many there
+    /// are. A border is a bit that differs from the one in front of it. They are written several at a time, since
+    /// processors guess badly how many a stretch holds.
+    std::size_t Find(const char16_t* stretch, std::uint32_t offset, Borders& found) {
+        std::uint64_t places = 0;
+        for (std::size_t i = 0; i < kStretch; i += kBlock) {
+            places |= std::uint64_t{PlacesOfIndexCharacters(stretch + i)} << i;
+        }
+        std::uint64_t borders = places ^ (places << 1 | lastPlace_);
+        lastPlace_ = places >> (kStretch - 1);
+        const auto count = static_cast<std::size_t>(std::popcount(borders));
+        for (std::size_t written = 0; written < count; written += kAtOnce) {
+            for (std::size_t i = 0; i < kAtOnce; ++i) {
+                found[written + i] = offset + static_cast<std::uint32_t>(std::countr_zero(borders));
+                borders &= borders - 1;
+            }
+        }
+        return count;
+    }
+
+  private:
+    std::uint64_t lastPlace_ = 0;  // 1 where the last character belongs to a word
+};
+
+// Calls `visit` with begin and end of every run of the index's characters.
 template <class Visit>
 void ForEachWord(TextView text, Visit visit) {
-    std::uint32_t inWord = 0;  // 1 where the last character belongs to a word
-    std::size_t begin = 0;
-    const auto visitBorders = [&](std::size_t offset, std::uint32_t places) {
-        for (std::uint32_t borders = (places ^ (places << 1 | inWord)) & 0xFFFF; borders != 0; borders &= borders - 1) {
-            const std::size_t place = offset + static_cast<std::size_t>(std::countr_zero(borders));
-            if (inWord != 0) visit(begin, place);
-            begin = place;
-            inWord ^= 1;
-        }
+    BorderFinder finder;
+    BorderFinder::Borders borders;
+    constexpr std::uint32_t kNowhere = 0xFFFFFFFF;
+    std::uint32_t begin = kNowhere;  // of a word whose end is not found yet
+    const auto visitStretch = [&](const char16_t* stretch, std::size_t offset) {
+        const std::size_t count = finder.Find(stretch, static_cast<std::uint32_t>(offset), borders);
+        std::size_t i = 0;
+        if (begin != kNowhere && count > 0) visit(std::exchange(begin, kNowhere), borders[i++]);
+        for (; i + 1 < count; i += 2) visit(borders[i], borders[i + 1]);
+        if (i < count) begin = borders[i];
     };
     std::size_t i = 0;
-    for (; i + kBlock <= text.size(); i += kBlock) visitBorders(i, PlacesOfIndexCharacters(text.data() + i));
-    char16_t rest[kBlock] = {};
+    for (; i + BorderFinder::kStretch <= text.size(); i += BorderFinder::kStretch) visitStretch(text.data() + i, i);
+    char16_t rest[BorderFinder::kStretch] = {};
     std::copy(text.begin() + static_cast<std::ptrdiff_t>(i), text.end(), rest);
-    visitBorders(i, PlacesOfIndexCharacters(rest));
-    if (inWord != 0) visit(begin, text.size());
+    visitStretch(rest, i);
 }
 
 }  // namespace
 
-bool IsIndexCharacter(char16_t c) {
-    return c < 256 && kIndexCharacters[c];
-}
-
-WordTable::Key WordTable::KeyOf(const std::uint64_t (&packed)[2], TextView word) {
-    const std::size_t used = std::min(word.size(), kPacked);
-    Key key;
-    key.low = packed[0] & kFirstBytes[std::min(used, kPacked / 2)];
-    key.high = packed[1] & kFirstBytes[std::max(used, kPacked / 2) - kPacked / 2];
-    key.text = word;
-    return key;
-}
-
 WordTable::Key WordTable::KeyOf(TextView word) {
     char16_t padded[kPacked] = {};
     std::copy_n(word.begin(), std::min(word.size(), kPacked), padded);
-    std::uint64_t packed[2];
-    PackBlock(padded, packed);
-    return KeyOf(packed, word);
+    const auto [low, high] = Pack(padded, std::min(word.size(), kPacked));
+    return {low, high};
 }
 
-std::size_t WordTable::HashOf(const Key& key) {
+inline std::size_t WordTable::HashOf(Key key, TextView word) {
     constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
     std::uint64_t hash = key.low * kMultiplier;
     hash = (hash ^ (hash >> 32) ^ key.high) * kMultiplier;
-    for (std::size_t i = kPacked; i < key.text.size(); ++i) hash = (hash ^ key.text[i]) * kMultiplier;
+    for (std::size_t i = kPacked; i < word.size(); ++i) hash = (hash ^ word[i]) * kMultiplier;
     return hash >> 32;
 }
 
-// No character of a word is 0: words of different length differ in their first bytes.
-bool WordTable::Holds(const Slot& slot, const Key& key) const {
-    if (slot.low != key.low || slot.high != key.high) return false;
-    return key.text.size() < kPacked || IsSame(longWords_[slot.number], key.text);
+// No character of a word is 0: shorter words of different length differ in their keys.
+inline bool WordTable::Holds(const Slot& slot, Key key, TextView word) const {
+    if (slot.key.low != key.low || slot.key.high != key.high) return false;
+    return word.size() < kPacked || IsSame(longWords_[slot.number], word);
 }
 
 // The slot of the word, or the free one where it belongs.
-std::size_t WordTable::SlotOf(const Key& key) const {
+inline std::size_t WordTable::SlotOf(Key key, TextView word) const {
     const std::size_t mask = slots_.size() - 1;
-    std::size_t i = HashOf(key) & mask;
-    while (slots_[i].number != kNoWord && !Holds(slots_[i], key)) i = (i + 1) & mask;
+    std::size_t i = HashOf(key, word) & mask;
+    while (slots_[i].number != kNoWord && !Holds(slots_[i], key, word)) i = (i + 1) & mask;
     return i;
 }
 
-std::uint32_t WordTable::NumberOf(const Key& key) {
-    Slot& slot = slots_[SlotOf(key)];
-    if (slot.number != kNoWord) return slot.number;
+inline std::uint32_t WordTable::NumberOf(Key key, TextView word) {
+    Slot& slot = slots_[SlotOf(key, word)];
+    return slot.number != kNoWord ? slot.number : Enter(slot, key, word);
+}
+
+std::uint32_t WordTable::Enter(Slot& slot, Key key, TextView word) {
     const std::uint32_t number = Size();
-    slot = {key.low, key.high, number};
-    longWords_.push_back(key.text.size() < kPacked ? TextView() : store_.Keep(key.text));
+    slot = {key, number};
+    longWords_.push_back(word.size() < kPacked ? TextView() : store_.Keep(word));
     if (2 * longWords_.size() > slots_.size()) Grow();
     return number;
 }
@@ -158,7 +174,7 @@ void WordTable::Grow() {
     const std::size_t mask = slots_.size() - 1;
     for (const Slot& slot : old) {
         if (slot.number == kNoWord) continue;
-        std::size_t i = HashOf({slot.low, slot.high, longWords_[slot.number]}) & mask;
+        std::size_t i = HashOf(slot.key, longWords_[slot.number]) & mask;
         while (slots_[i].number != kNoWord) i = (i + 1) & mask;
         slots_[i] = slot;
     }
@@ -166,22 +182,22 @@ void WordTable::Grow() {
 
 std::uint32_t WordTable::Find(TextView word) const {
     if (word.empty() || !std::all_of(word.begin(), word.end(), IsIndexCharacter)) return kNoWord;
-    return slots_[SlotOf(KeyOf(word))].number;
+    return slots_[SlotOf(KeyOf(word), word)].number;
 }
 
 std::vector<WordPlace> WordTable::Read(TextView text) {
     constexpr std::size_t kCharactersPerWord = 6;
     std::vector<WordPlace> places;
     places.reserve(text.size() / kCharactersPerWord);
-    ForEachWord(text, [&](std::size_t begin, std::size_t end) {
+    ForEachWord(text, [&](std::uint32_t begin, std::uint32_t end) {
         const TextView word = text.substr(begin, end - begin);
-        if (begin + kPacked > text.size()) {
-            places.push_back({static_cast<std::uint32_t>(begin), NumberOf(KeyOf(word))});
-            return;
+        Key key;
+        if (begin + kPacked <= text.size()) {
+            std::tie(key.low, key.high) = Pack(word.data(), std::min(word.size(), kPacked));
+        } else {
+            key = KeyOf(word);
         }
-        std::uint64_t packed[2];
-        PackBlock(word.data(), packed);
-        places.push_back({static_cast<std::uint32_t>(begin), NumberOf(KeyOf(packed, word))});
+        places.push_back({begin, NumberOf(key, word)});
     });
     return places;
 }

@@ -2,6 +2,7 @@
 
 // The words of a project, found once: the tokenizer, the names and the word index all go on from here.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -14,7 +15,16 @@ namespace zentlor {
 /// The characters of which words are made here: the ASCII letters and digits, "_", and the German letters. All of them
 /// continue a word for a whole-word search and for the use search alike, so that the runs of these characters answer
 /// both; the characters in which the two differ lie beside a run, and the searches look at them there.
-bool IsIndexCharacter(char16_t c);
+inline constexpr std::array<bool, 256> kIndexCharacters = [] {
+    std::array<bool, 256> table{};
+    for (std::size_t c = u'0'; c <= u'9'; ++c) table[c] = true;
+    for (std::size_t c = u'A'; c <= u'Z'; ++c) table[c] = table[c + 32] = true;
+    for (const char16_t c : TextView(u"_ßäÄöÖüÜ")) table[c] = true;
+    return table;
+}();
+inline bool IsIndexCharacter(char16_t c) {
+    return c < kIndexCharacters.size() && kIndexCharacters[c];
+}
 
 /// The number of no word.
 inline constexpr std::uint32_t kNoWord = 0xFFFFFFFF;
@@ -43,25 +53,23 @@ class WordTable {
   private:
     static constexpr std::size_t kPacked = 16;
 
-    // A word as it is compared: its first kPacked characters with one byte each, and all of it where it is longer.
+    // The first kPacked characters of a word with one byte each, the first one lowest.
     struct Key {
         std::uint64_t low = 0;
         std::uint64_t high = 0;
-        TextView text;
     };
     struct Slot {
-        std::uint64_t low = 0;
-        std::uint64_t high = 0;
+        Key key;
         std::uint32_t number = kNoWord;
     };
 
     static Key KeyOf(TextView word);
-    static Key KeyOf(const std::uint64_t (&packed)[2], TextView word);
-    static std::size_t HashOf(const Key& key);
-    bool Holds(const Slot& slot, const Key& key) const;
-    std::size_t SlotOf(const Key& key) const;
+    static std::size_t HashOf(Key key, TextView word);
+    bool Holds(const Slot& slot, Key key, TextView word) const;
+    std::size_t SlotOf(Key key, TextView word) const;
 
-    std::uint32_t NumberOf(const Key& key);
+    std::uint32_t NumberOf(Key key, TextView word);
+    std::uint32_t Enter(Slot& slot, Key key, TextView word);
     void Grow();
 
     std::vector<Slot> slots_;          // open addressing, a power of two

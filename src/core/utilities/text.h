@@ -42,6 +42,10 @@ std::size_t FindText(TextView text, std::size_t from, TextView target);
 
 /// Offset of the first character at or behind offset `from` that is no " ", or the text's size.
 inline std::size_t SkipSpaces(TextView text, std::size_t from) {
+    constexpr std::size_t kStep = 4;
+    while (from + kStep <= text.size() && std::memcmp(text.data() + from, u"    ", kStep * sizeof(char16_t)) == 0) {
+        from += kStep;
+    }
     while (from < text.size() && text[from] == u' ') ++from;
     return from;
 }
