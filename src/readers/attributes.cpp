@@ -43,13 +43,16 @@ struct Attribute {
     TextView value;
 };
 
+// Nearly every line is told by its first letter.
+bool MayBeAttribute(TextView line) {
+    std::size_t first = SkipSpaces(line, 0);
+    while (first < line.size() && IsBlank(line[first])) ++first;
+    return first < line.size() && (line[first] | 0x20) == u'a';
+}
+
 // The parts of a physical line that begins an `Attribute` line.
 std::optional<Attribute> ParseAttribute(TextView line) {
     constexpr TextView kWord = u"Attribute";
-    std::size_t first = SkipSpaces(line, 0);
-    while (first < line.size() && IsBlank(line[first])) ++first;
-    // Nearly every line ends here.
-    if (first == line.size() || (line[first] | 0x20) != u'a') return std::nullopt;
     const TextView trimmed = WithoutBlanks(line);
     if (trimmed.size() <= kWord.size() || !IsBlank(trimmed[kWord.size()])) return std::nullopt;
     if (!EqualIgnoringCase(trimmed.substr(0, kWord.size()), kWord)) return std::nullopt;
@@ -116,7 +119,7 @@ std::size_t CountHeaderLines(TextView text) {
         const TextView word = FirstWord(line);
         const bool begins = EqualIgnoringCase(word, u"BEGIN") || EqualIgnoringCase(word, u"BeginProperty");
         const bool ends = EqualIgnoringCase(word, u"END") || EqualIgnoringCase(word, u"EndProperty");
-        if (ParseAttribute(line)) return depth > 0 ? count : complete;
+        if (MayBeAttribute(line) && ParseAttribute(line)) return depth > 0 ? count : complete;
         if (depth == 0 && !begins && !word.empty() && !EqualIgnoringCase(word, u"Object")) break;
         ++count;
         if (begins) ++depth;
@@ -147,9 +150,12 @@ StrippedCode StripAttributes(TextView text) {
             continue;
         }
         if (!inside) {
-            const auto attribute = ParseAttribute(line);
-            hiding = attribute.has_value();
-            if (attribute) Remember(*attribute, result);
+            hiding = false;
+            if (MayBeAttribute(line)) {
+                const auto attribute = ParseAttribute(line);
+                hiding = attribute.has_value();
+                if (attribute) Remember(*attribute, result);
+            }
         }
         inside = Continues(line);
         if (hiding) {

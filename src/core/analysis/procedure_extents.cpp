@@ -231,7 +231,7 @@ class ExtentFinder {
 
     // `code`: the line from its first character on that is no blank.
     void VisitLogicalLine(int first, int last, TextView code) {
-        const bool holdsColon = HoldsColon(code);
+        const bool holdsColon = HoldsColon(code) && MayEndBehindColon(code);
         const bool mayBound = open_ ? holdsColon || MayEndProcedure(code) : MayBeHeader(code);
         const bool isSeen = mayBound || result_.procedures.empty();
         if (!isSeen || IsComment(code)) return;
@@ -248,6 +248,16 @@ class ExtentFinder {
         const auto begin = static_cast<std::size_t>(line.data() - text_.data());
         if (nextColon_ < begin) nextColon_ = FindCharacter(text_, begin, u':');
         return nextColon_ < begin + line.size();
+    }
+
+    // Most colons stand in strings, and what follows them begins with no letter that an `End` could begin with.
+    static bool MayEndBehindColon(TextView line) {
+        for (std::size_t i = FindCharacter(line, 0, u':'); i < line.size(); i = FindCharacter(line, i + 1, u':')) {
+            const TextView behind = line.substr(SkipSpaces(line, i + 1));
+            if (behind.empty()) continue;
+            if (MayEndProcedure(behind) || behind.front() == u'\t' || behind.front() == u'_') return true;
+        }
+        return false;
     }
 
     void VisitStatements(int first, int last, TextView line) {

@@ -47,10 +47,10 @@ void CmdLeftStattLeftS(const VBComponent& vbc, Hints& hints) {
         u"Right", u"RightB", u"RTrim",   u"Space",  u"Str",   u"String", u"Time",  u"Trim",   u"UCase"};
     const CodeModule& cm = vbc.CodeModule();
     for (const TextView function : kFunctions) {
-        ForEachHit(cm, KeywordWalk(cm, function), [&](const Hit& hit) {
-            const bool called = Mid(cm.Lines(hit.line), hit.column + Len(function), 1) == u"(";
-            if (called && !IsOnHeader(cm, hit)) hints.Add(hit, function);
-        });
+        const auto isCalled = [&](const Hit& hit) {
+            return Mid(cm.Lines(hit.line), hit.column + Len(function), 1) == u"(" && !IsOnHeader(cm, hit);
+        };
+        ForEachHit(cm, KeywordWalk(cm, function), isCalled, [&](const Hit& hit) { hints.Add(hit, function); });
     }
 }
 

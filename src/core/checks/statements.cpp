@@ -13,30 +13,27 @@ void ReportWords(const VBComponent& vbc, TextView word, Hints& hints) {
 }
 
 // Parts of words and other fragments count as well.
-template <class Accept>
-void ReportFragments(const VBComponent& vbc, TextView fragment, Hints& hints, Accept accept) {
+template <class Counts>
+void ReportFragments(const VBComponent& vbc, TextView fragment, Hints& hints, Counts counts) {
     FindForm form = KeywordWalk(vbc.CodeModule(), fragment);
     form.flags.wholeWord = false;
-    ForEachHit(vbc.CodeModule(), form, [&](const Hit& hit) {
-        if (accept(hit)) hints.Add(hit);
-    });
+    ForEachHit(vbc.CodeModule(), form, counts, [&](const Hit& hit) { hints.Add(hit); });
 }
 
 // Spares a procedure that bears the word as its name, on the first line of its header.
 void ReportWordsBehindHeader(const VBComponent& vbc, TextView word, Hints& hints) {
     const CodeModule& cm = vbc.CodeModule();
-    ForEachHit(cm, KeywordWalk(cm, word), [&](const Hit& hit) {
-        if (!IsOnHeader(cm, hit)) hints.Add(hit);
-    });
+    const auto isBehindHeader = [&](const Hit& hit) { return !IsOnHeader(cm, hit); };
+    ForEachHit(cm, KeywordWalk(cm, word), isBehindHeader, [&](const Hit& hit) { hints.Add(hit); });
 }
 
 void ReportDebugMethod(const VBComponent& vbc, TextView method, Hints& hints) {
     const CodeModule& cm = vbc.CodeModule();
-    ForEachHit(cm, KeywordWalk(cm, method), [&](const Hit& hit) {
-        const bool ofDebug = StandsBehind(cm, hit.line, hit.column, u"Debug.", 6) ||
-                             StandsBehind(cm, hit.line, hit.column, u"Debug. ", 7);
-        if (ofDebug) hints.Add(hit);
-    });
+    const auto isOfDebug = [&](const Hit& hit) {
+        return StandsBehind(cm, hit.line, hit.column, u"Debug.", 6) ||
+               StandsBehind(cm, hit.line, hit.column, u"Debug. ", 7);
+    };
+    ForEachHit(cm, KeywordWalk(cm, method), isOfDebug, [&](const Hit& hit) { hints.Add(hit); });
 }
 
 }  // namespace
@@ -84,9 +81,8 @@ void CmdGoToWirdVerwendet(const VBComponent& vbc, Hints& hints) {
 
 void CmdLetWirdVerwendet(const VBComponent& vbc, Hints& hints) {
     const CodeModule& cm = vbc.CodeModule();
-    ForEachHit(cm, KeywordWalk(cm, u"Let"), [&](const Hit& hit) {
-        if (!StandsBehind(cm, hit.line, hit.column, u"Property ", 9)) hints.Add(hit);
-    });
+    const auto isStatement = [&](const Hit& hit) { return !StandsBehind(cm, hit.line, hit.column, u"Property ", 9); };
+    ForEachHit(cm, KeywordWalk(cm, u"Let"), isStatement, [&](const Hit& hit) { hints.Add(hit); });
 }
 
 void CmdIIfWirdVerwendet(const VBComponent& vbc, Hints& hints) {

@@ -51,15 +51,15 @@ FindForm KeywordWalk(const CodeModule& cm, TextView target);
 /// Whether the hit stands on the first line of its procedure's header.
 bool IsOnHeader(const CodeModule& cm, const Hit& hit);
 
-/// Calls `onHit` for every hit of `form` in code, in order of the text. `onHit` returns nothing, or false to end the
-/// walk.
-template <class OnHit>
-void ForEachHit(const CodeModule& cm, const FindForm& form, OnHit onHit) {
+/// Calls `onHit` for every hit of `form` in code that `counts`, in order of the text. `onHit` returns nothing, or false
+/// to end the walk. `counts` is asked first: to tell code from comments costs more.
+template <class Counts, class OnHit>
+void ForEachHit(const CodeModule& cm, const FindForm& form, Counts counts, OnHit onHit) {
     HitFilter filter(cm);
     FindRange range = form.range;
     while (cm.Find(form.target, range, form.flags)) {
         const Hit hit{range.startLine, range.startColumn};
-        if (filter.IsInCode(hit)) {
+        if (counts(hit) && filter.IsInCode(hit)) {
             if constexpr (std::is_same_v<decltype(onHit(hit)), bool>) {
                 if (!onHit(hit)) return;
             } else {
@@ -68,6 +68,12 @@ void ForEachHit(const CodeModule& cm, const FindForm& form, OnHit onHit) {
         }
         range = {hit.line, hit.column + 1, form.range.endLine, form.range.endColumn};
     }
+}
+
+template <class OnHit>
+void ForEachHit(const CodeModule& cm, const FindForm& form, OnHit onHit) {
+    ForEachHit(
+        cm, form, [](const Hit&) { return true; }, onHit);
 }
 
 /// Calls `visit` for every procedure of a procedure walk. One whose extent begins on the module's very last line is not
