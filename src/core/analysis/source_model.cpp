@@ -48,9 +48,15 @@ TextView CodeModule::Lines(int line) const {
     return TextView(text_).substr(begin, OffsetOfLine(line + 1) - begin - 1);
 }
 
+// The usual search by halves, without a branch: where the hits of a search lie is nothing that a processor can guess.
 int CodeModule::LineOfOffset(std::uint32_t offset) const {
-    const auto behind = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), offset);
-    return static_cast<int>(behind - lineStarts_.begin());
+    const std::uint32_t* start = lineStarts_.data();
+    for (std::size_t count = lineStarts_.size(); count > 1;) {
+        const std::size_t half = count / 2;
+        start += start[half] <= offset ? half : 0;
+        count -= half;
+    }
+    return static_cast<int>(start - lineStarts_.data()) + 1;
 }
 
 TextView CodeModule::ProcOfLine(int line, int& kind) const {
@@ -137,13 +143,15 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
         }
         return kNotFound;
     }
+    const bool isOneWord = anchor.size() == target.size();
     const WordIndex& words = component_.Project().Words();
     const Place start = words.StartOf(component_.Index());
     for (const Place place : words.PlacesOf(anchor, component_.Index(), bounds.from)) {
         const std::size_t offset = place - start;
         if (offset + target.size() > bounds.to) return kNotFound;
-        const bool equal = anchor.size() == target.size() || IsSame(text.substr(offset, target.size()), target);
-        if (equal && StandsFree(offset, target.size(), continuesWord)) return offset;
+        if (!isOneWord && text[offset + target.size() - 1] != target.back()) continue;
+        if (!isOneWord && !IsSame(text.substr(offset, target.size()), target)) continue;
+        if (StandsFree(offset, target.size(), continuesWord)) return offset;
     }
     return kNotFound;
 }

@@ -127,10 +127,13 @@ void ForEachWord(TextView text, Visit visit) {
 }  // namespace
 
 WordTable::Key WordTable::KeyOf(TextView word) {
-    char16_t padded[kPacked] = {};
-    std::copy_n(word.begin(), std::min(word.size(), kPacked), padded);
-    const auto [low, high] = Pack(padded, std::min(word.size(), kPacked));
-    return {low, high};
+    Key key;
+    const std::size_t half = kPacked / 2;
+    for (std::size_t i = 0; i < std::min(word.size(), half); ++i) key.low |= std::uint64_t{word[i]} << (8 * i);
+    for (std::size_t i = half; i < std::min(word.size(), kPacked); ++i) {
+        key.high |= std::uint64_t{word[i]} << (8 * (i - half));
+    }
+    return key;
 }
 
 inline std::size_t WordTable::HashOf(Key key, TextView word) {
