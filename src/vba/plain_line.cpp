@@ -3,8 +3,6 @@
 
 #include "vba/plain_line.h"
 
-#include <algorithm>
-
 #include "vba/capitalisation.h"
 #include "vba/header_parentheses.h"
 #include "vba/token_form.h"
@@ -76,9 +74,7 @@ class PlainLine {
     bool HasForm(const Token& token) const { return vba::HasForm(token, TextView(text_ + token.offset, token.length)); }
 
     // Whether the gap holds nothing but simple blanks.
-    bool IsBlank() const {
-        return std::all_of(text_ + gapStart_, text_ + gapStart_ + gap_, [](char16_t c) { return c == u' '; });
-    }
+    bool IsBlank() const { return SkipSpaces(TextView(text_ + gapStart_, gap_), 0) == gap_; }
     bool IsOneBlank() const { return gap_ == 1 && text_[gapStart_] == u' '; }
     bool HasGapOfWord() const { return startsPhysicalLine_ || (before_ == Before::Tight ? gap_ == 0 : IsOneBlank()); }
 

@@ -131,11 +131,13 @@ std::size_t CodeModule::SearchText(TextView target, Bounds bounds, FindFlags fla
     return kNotFound;
 }
 
-// A target that begins with a word of the index is looked for where that word stands; any other one in the whole text.
+// A target that begins with a word of the index is looked for where that word stands; any other one, and any in a few
+// lines, by going through the text.
 std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*continuesWord)(char16_t)) const {
     const TextView text(text_);
+    constexpr std::size_t kFewLines = 256;
     const TextView anchor = LeadingWord(target);
-    if (anchor.empty()) {
+    if (anchor.empty() || bounds.to - bounds.from < kFewLines) {
         const TextView searched = text.substr(0, bounds.to);
         for (std::size_t i = FindText(searched, bounds.from, target); i < searched.size();
              i = FindText(searched, i + 1, target)) {

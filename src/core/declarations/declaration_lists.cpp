@@ -23,10 +23,10 @@ void Cut(TextView statement, int namePos, int nameEnd, int typePos, DeclaredName
 
 VariableList::VariableList(TextView statement, int lngPos)
     : statement_(statement),
-      blanks_(statement, u" "),
-      commas_(statement, u","),
-      opening_(statement, u"("),
-      closing_(statement, u")"),
+      blanks_(statement, u' '),
+      commas_(statement, u','),
+      opening_(statement, u'('),
+      closing_(statement, u')'),
       lngPos_(lngPos) {}
 
 bool VariableList::Next(DeclaredName& name) {
@@ -60,7 +60,7 @@ bool VariableList::Next(DeclaredName& name) {
 }
 
 ConstantList::ConstantList(TextView statement, int lngPos)
-    : statement_(statement), blanks_(statement, u" "), commas_(statement, u","), quotes_(statement), lngPos_(lngPos) {}
+    : statement_(statement), blanks_(statement, u' '), commas_(statement, u','), quotes_(statement), lngPos_(lngPos) {}
 
 int ConstantList::NextComma() {
     int comma = commas_.From(lngPos_);

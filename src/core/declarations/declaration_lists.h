@@ -25,10 +25,10 @@ class VariableList {
 
   private:
     TextView statement_;
-    NextColumn blanks_;
-    NextColumn commas_;
-    NextColumn opening_;
-    NextColumn closing_;
+    NextColumn<char16_t> blanks_;
+    NextColumn<char16_t> commas_;
+    NextColumn<char16_t> opening_;
+    NextColumn<char16_t> closing_;
     int lngPos_;
     bool more_ = true;
 };
@@ -43,8 +43,8 @@ class ConstantList {
     int NextComma();
 
     TextView statement_;
-    NextColumn blanks_;
-    NextColumn commas_;
+    NextColumn<char16_t> blanks_;
+    NextColumn<char16_t> commas_;
     QuoteCounter quotes_;
     int lngPos_;
     bool more_ = true;

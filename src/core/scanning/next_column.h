@@ -4,10 +4,12 @@
 
 namespace zentlor {
 
-/// First occurrences of a text in another one. As long as the columns grow, each part is searched once.
+/// First occurrences of a character or of a text, `Wanted`, in a text. As long as the columns grow, each part is
+/// searched once.
+template <class Wanted>
 class NextColumn {
   public:
-    NextColumn(TextView text, TextView wanted) : text_(text), wanted_(wanted) {}
+    NextColumn(TextView text, Wanted wanted) : text_(text), wanted_(wanted) {}
 
     /// As InStr(column, text, wanted): the column of the first one at or behind `column`, or 0.
     int From(int column) {
@@ -19,7 +21,7 @@ class NextColumn {
 
   private:
     TextView text_;
-    TextView wanted_;
+    Wanted wanted_;
     int asked_ = 0;
     int found_ = -1;
 };

@@ -22,8 +22,8 @@ class ParameterReader {
   public:
     explicit ParameterReader(TextView header)
         : header_(header),
-          blanks_(header, u" "),
-          commas_(header, u","),
+          blanks_(header, u' '),
+          commas_(header, u','),
           types_(header, u"As "),
           quotes_(header),
           column_(InStr(1, header, u'(') + 1),
@@ -70,9 +70,9 @@ class ParameterReader {
     }
 
     TextView header_;
-    NextColumn blanks_;
-    NextColumn commas_;
-    NextColumn types_;
+    NextColumn<char16_t> blanks_;
+    NextColumn<char16_t> commas_;
+    NextColumn<TextView> types_;
     QuoteCounter quotes_;
     int column_;
     int end_;
