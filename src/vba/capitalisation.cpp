@@ -27,22 +27,24 @@ std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView 
     DeclarationReader declarations;
     std::vector<std::uint32_t> held;
     ++modules_;
+    const auto enter = [&](const Token& token, bool declares) {
+        return names_.Add(NameOf(token, text), declares ? NameRank::Declared : NameRank::Met);
+    };
     for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
         const Token& token = tokens[i];
         const bool declares = declarations.Declares(token, tokens[i + 1]);
         if (!HasProjectCapitalisation(token)) continue;
         if (token.word == kNoWord) {
-            held.push_back(names_.Add(NameOf(token, text), declares ? NameRank::Declared : NameRank::Met));
+            held.push_back(enter(token, declares));
             continue;
         }
         if (token.word >= words_.size()) words_.resize(2 * std::size_t{token.word} + 64);
         Word& word = words_[token.word];
-        const bool isNews = word.lastModule == 0 || (declares && !word.isDeclared);
-        if (isNews) word.name = names_.Add(NameOf(token, text), declares ? NameRank::Declared : NameRank::Met);
-        word.isDeclared |= declares;
-        if (word.lastModule == modules_) continue;
+        if (word.lastModule == modules_ && (word.isDeclared || !declares)) continue;
+        if (word.lastModule == 0 || (declares && !word.isDeclared)) word.name = enter(token, declares);
+        if (word.lastModule != modules_) held.push_back(word.name);
         word.lastModule = modules_;
-        held.push_back(word.name);
+        word.isDeclared |= declares;
     }
     return held;
 }

@@ -13,9 +13,7 @@ class DeclarationReader {
     /// Takes the next token; `following` is the one behind it. True if the token is a name that is declared here.
     bool Declares(const Token& token, const Token& following) {
         // Nearly all tokens stand in statements that declare nothing.
-        const bool isPassedOver = mode_ == Mode::Other && token.kind != TokenKind::EndOfLine &&
-                                  token.kind != TokenKind::Keyword && !token.Is(Operator::Colon);
-        return !isPassedOver && Read(token, following);
+        return (mode_ != Mode::Other || EndsStatement(token)) && Read(token, following);
     }
 
   private:
@@ -28,6 +26,16 @@ class DeclarationReader {
         Other,
     };
 
+    static bool EndsStatement(const Token& token) {
+        switch (token.kind) {
+            case TokenKind::EndOfLine:
+                return true;
+            case TokenKind::Keyword:
+                return token.keyword() == Keyword::Then || token.keyword() == Keyword::Else;
+            default:
+                return token.Is(Operator::Colon);
+        }
+    }
     bool Read(const Token& token, const Token& following);
     bool ReadStart(const Token& token, const Token& following);
     bool ReadList(const Token& token, const Token& following);

@@ -21,6 +21,25 @@ bool IsAccessor(const Token& token) {
     return token.Is(Keyword::Get) || token.Is(Keyword::Let) || token.Is(Keyword::Set);
 }
 
+// What nearly every line is told by.
+bool BeginsHeader(const Token& first) {
+    switch (first.keyword()) {
+        case Keyword::Declare:
+        case Keyword::Event:
+        case Keyword::Friend:
+        case Keyword::Function:
+        case Keyword::Private:
+        case Keyword::Property:
+        case Keyword::PtrSafe:
+        case Keyword::Public:
+        case Keyword::Static:
+        case Keyword::Sub:
+            return true;
+        default:
+            return false;
+    }
+}
+
 // The index of the declared name, or `kNoToken` if the line is no header. `isDeclare` tells a `Declare` statement.
 std::size_t FindHeaderName(const Tokens& tokens, std::size_t first, bool& isDeclare) {
     std::size_t i = first;
@@ -43,9 +62,7 @@ std::size_t FindHeaderName(const Tokens& tokens, std::size_t first, bool& isDecl
 
 MissingParentheses FindMissingParentheses(const Tokens& tokens, std::size_t first, std::size_t end) {
     constexpr MissingParentheses kNothing{kNoToken, {}};
-    if (!IsModifier(tokens[first]) && !IsProcedureWord(tokens[first]) && !tokens[first].Is(Keyword::Property)) {
-        return kNothing;
-    }
+    if (!BeginsHeader(tokens[first])) return kNothing;
     bool isDeclare = false;
     std::size_t last = FindHeaderName(tokens, first, isDeclare);
     if (last == kNoToken) return kNothing;

@@ -94,9 +94,14 @@ class PlainLine {
 
     bool TakeName(const Token& token) {
         StartStatement();
-        if (!HasGapOfWord() || token.Is(Keyword::Go)) return false;
-        if (token.Has(kRespelled) && !token.Has(kBracketed) && !HasProjectCapitalisation(token)) return false;
+        if (!HasGapOfWord()) return false;
         if (before_ == Before::Name) isInHead_ = false;
+        return token.id == 0 ? Become(Before::Name) : TakeContextualWord(token);
+    }
+
+    bool TakeContextualWord(const Token& token) {
+        if (token.Is(Keyword::Go)) return false;
+        if (token.Has(kRespelled) && !token.Has(kBracketed) && !HasProjectCapitalisation(token)) return false;
         const bool isStep = token.Is(Keyword::Step) && tokens_[statement_].Is(Keyword::For);
         return Become(isStep ? Before::Keyword : Before::Name);
     }
