@@ -115,8 +115,8 @@ std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std
     const Text text = DecodeModuleText(bytes);
     if (FindCharacter(text, 0, u'\0') < text.size()) {
         Fail(ReadFailure::NotADocument,
-             "„[%1]“ ist kein Modul: die Datei enthält Zeichen, die in keinem Text stehen; geben Sie ein exportiertes "
-             "Modul, ein Office-Dokument oder eine Access-Datenbank an.",
+             "„[%1]“ ist kein Modul: die Datei enthält Zeichen, die in keinem Text stehen; ein exportiertes Modul, "
+             "ein Office-Dokument oder eine Access-Datenbank angeben.",
              "“[%1]” is no module: the file holds characters that stand in no text; name an exported module, an Office "
              "document or an Access database.",
              {path});
@@ -126,7 +126,7 @@ std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std
     if (IsAccessExport(text)) access = FindCodeBehind(text, ending == ".report");
     if (access && !access->code) {
         if (access->complete) return std::nullopt;
-        Fail(ReadFailure::Damaged, "„[%1]“ bricht vor dem Code ab; exportieren Sie das Objekt in Access noch einmal.",
+        Fail(ReadFailure::Damaged, "„[%1]“ bricht vor dem Code ab; das Objekt in Access noch einmal exportieren.",
              "“[%1]” breaks off in front of its code; export the object from Access once more.", {path});
     }
     StrippedCode stripped = StripAttributes(TextView(text).substr(access ? *access->code : 0));

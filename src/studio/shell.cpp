@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include "core/utilities/encoding.h"
 #include "studio/qtext.h"
 #include "workspace/atomic_file.h"
 
@@ -116,7 +117,7 @@ Text QtFileOutput::Dir(TextView path) {
 }
 
 void QtFileOutput::WriteFile(TextView path, std::string_view bytes) {
-    workspace::WriteFileAtomically(path, bytes);
+    workspace::WriteFileAtomically(ToUtf8(path), bytes);
 }
 
 }  // namespace zentlor::studio

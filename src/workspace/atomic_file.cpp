@@ -11,7 +11,6 @@
 #include <string>
 #include <utility>
 
-#include "core/utilities/encoding.h"
 #include "core/utilities/failure_frame.h"
 
 namespace zentlor::workspace {
@@ -158,8 +157,8 @@ void Replace(const std::string& path, const struct stat* old, std::string_view b
 
 }  // namespace
 
-void WriteFileAtomically(TextView path, std::string_view bytes) {
-    const std::string target = TargetOf(ToUtf8(path));
+void WriteFileAtomically(const std::string& path, std::string_view bytes) {
+    const std::string target = TargetOf(path);
     struct stat old {};
     if (::stat(target.c_str(), &old) != 0) {
         if (errno != ENOENT) Fail(target, errno);

@@ -1,8 +1,7 @@
 #pragma once
 
+#include <string>
 #include <string_view>
-
-#include "core/utilities/text.h"
 
 namespace zentlor::workspace {
 
@@ -14,6 +13,6 @@ namespace zentlor::workspace {
 /// A failure leaves the old file and no temporary one, and throws RuntimeError with a sentence that names the file:
 /// 76 the folder does not exist, 70 permission denied, 75 the name is taken by a folder or cannot be used, 61 the disk
 /// is full, 57 any other fault of the device.
-void WriteFileAtomically(TextView path, std::string_view bytes);
+void WriteFileAtomically(const std::string& path, std::string_view bytes);
 
 }  // namespace zentlor::workspace

@@ -23,15 +23,12 @@ bool IsModuleByName(const std::string& path) {
     return readers::IsExportedModule(path, {});
 }
 
+// Sets the file's role; false for what is neither a module nor a document.
 bool Classify(FoundFile& file) {
-    if (!IsModuleByName(file.path)) {
-        const std::string first = ReadFirstBytes(file.path, kFirstBytes);
-        if (readers::RecogniseFile(first) != readers::FileKind::Other) {
-            file.role = FileRole::Document;
-            return true;
-        }
-        return readers::IsExportedModule(file.path, first);
-    }
+    if (IsModuleByName(file.path)) return true;
+    const std::string first = ReadFirstBytes(file.path, kFirstBytes);
+    if (readers::RecogniseFile(first) == readers::FileKind::Other) return readers::IsExportedModule(file.path, first);
+    file.role = FileRole::Document;
     return true;
 }
 
@@ -43,11 +40,12 @@ class FolderWalk {
         std::error_code error;
         fs::directory_iterator probe(root_, error);
         if (error) {
-            readers::Fail(error == std::errc::permission_denied ? readers::ReadFailure::NoPermission
-                                                                : readers::ReadFailure::NotFound,
-                          "Der Ordner „[%1]“ kann nicht gelesen werden ([%2]); prüfen Sie den Namen und die Rechte.",
-                          "The folder “[%1]” cannot be read ([%2]); check its name and the permissions.",
-                          {root_, error.message()});
+            readers::Fail(
+                error == std::errc::permission_denied ? readers::ReadFailure::NoPermission
+                                                      : readers::ReadFailure::NotFound,
+                "Der Ordner „[%1]“ kann nicht gelesen werden ([%2]); den Namen und die Zugriffsrechte prüfen.",
+                "The folder “[%1]” cannot be read ([%2]); check its name and the permissions.",
+                {root_, error.message()});
         }
         Visit(root_, "");
         std::sort(list_.files.begin(), list_.files.end(),
@@ -64,7 +62,7 @@ class FolderWalk {
         }
         if (!error) return;
         list_.problems.push_back(readers::MakeSentence(
-            "Der Ordner „[%1]“ wurde nicht gelesen ([%2]); prüfen Sie die Rechte.",
+            "Der Ordner „[%1]“ wurde nicht gelesen ([%2]); die Zugriffsrechte prüfen.",
             "The folder “[%1]” was not read ([%2]); check the permissions.", {folder.string(), error.message()}));
     }
 
@@ -89,6 +87,8 @@ class FolderWalk {
 }  // namespace
 
 std::string ReadFirstBytes(const std::string& path, std::size_t count) {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) return {};
     const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0) return {};
     std::string bytes(count, '\0');

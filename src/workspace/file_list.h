@@ -19,11 +19,12 @@ struct FoundFile {
 
 struct FileList {
     std::vector<FoundFile> files;
-    std::vector<readers::Sentence> problems;  ///< folders and files that could not be looked at
+    std::vector<readers::Sentence> problems;  ///< folders that could not be looked at
 };
 
 /// The files below the folder `folder`, at any depth. Recognised are exported modules by their ending, and documents
-/// and Access exports by their first bytes; everything else is passed over, as are folders and files whose name begins
+/// and Access exports by their first bytes (a document that bears a module's ending is told only by whoever reads it);
+/// everything else is passed over, as are folders and files whose name begins
 /// with a dot, and links to folders. Throws readers::ReadError if the folder itself cannot be read.
 FileList ListFolder(const std::string& folder);
 

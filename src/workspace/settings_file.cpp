@@ -99,6 +99,7 @@ SettingsFile::Values SettingsFile::Read() {
     if (!in && errno == ENOENT) return values;
     std::string section;
     for (std::string line; std::getline(in, line);) {
+        if (line.ends_with('\r')) line.pop_back();  // saved by an editor of another system
         const auto equals = line.find('=');
         if (line.starts_with('[') && line.ends_with(']')) {
             section = line.substr(1, line.size() - 2);
@@ -122,8 +123,9 @@ void SettingsFile::SaveSetting(TextView application, TextView section, TextView 
 
 void SettingsFile::Flush() {
     if (pending_.empty()) return;
-    std::error_code ignored;
-    fs::create_directories(fs::path(path_).parent_path(), ignored);
+    std::error_code error;
+    const fs::path folder = fs::path(path_).parent_path();
+    if (!folder.empty()) fs::create_directories(folder, error);
     const FileLock lock(path_ + ".lock");
     Values merged = lock.Held() ? Read() : Values();
     for (const auto& [key, value] : pending_) merged[key] = value;
@@ -139,13 +141,13 @@ void SettingsFile::Flush() {
         }
         bytes += key.substr(separator + 1) + "=" + Escape(value) + "\n";
     }
-    if (!lock.Held() && !problem_) problem_ = SystemReason();
+    if (!lock.Held() && !problem_) problem_ = error ? error.message() : SystemReason();
     if (problem_) return;
     try {
-        WriteFileAtomically(FromUtf8(path_), bytes);
+        WriteFileAtomically(path_, bytes);
         values_ = std::move(merged);
-    } catch (const RuntimeError& error) {
-        problem_ = error.what();
+    } catch (const RuntimeError& failure) {
+        problem_ = failure.what();
     }
 }
 

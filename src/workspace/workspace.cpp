@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <utility>
 
 #include "core/utilities/encoding.h"
 #include "readers/exported_module.h"
@@ -125,13 +126,19 @@ class Opener {
                 Guard(file, [&] { TakeModule(file, document); });
             }
         }
+        for (const std::string& file : std::exchange(disguised_, {})) Guard(file, [&] { OpenDocument(file); });
         if (!document.modules.empty()) Add(std::move(document), false);
     }
 
     void TakeModule(const std::string& path, readers::Document& document) {
         readers::Limits limits = options_.limits;
         limits.fileBytes = std::min(limits.fileBytes, 2 * limits.moduleBytes);
-        auto module = readers::ReadExportedModule(readers::ReadWholeFile(path, limits), path);
+        const std::string bytes = readers::ReadWholeFile(path, limits);
+        if (readers::RecogniseFile(bytes) != readers::FileKind::Other) {
+            disguised_.push_back(path);
+            return;
+        }
+        auto module = readers::ReadExportedModule(bytes, path);
         if (module) {
             document.modules.push_back(std::move(*module));
             return;
@@ -166,7 +173,8 @@ class Opener {
 
     const OpenOptions& options_;
     Workspace workspace_;
-    std::vector<std::string> named_;  ///< modules that were named themselves
+    std::vector<std::string> named_;      ///< modules that were named themselves
+    std::vector<std::string> disguised_;  ///< documents that bear the name of a module
 };
 
 }  // namespace

@@ -31,7 +31,7 @@ class AtomicFile : public testing::Test {
         return {std::istreambuf_iterator<char>(file), {}};
     }
     void Write(const std::string& name, std::string_view bytes) {
-        WriteFileAtomically(FromUtf8((folder_ / name).string()), bytes);
+        WriteFileAtomically((folder_ / name).string(), bytes);
     }
     long Files() { return std::distance(fs::directory_iterator(folder_), fs::directory_iterator()); }
 
@@ -69,7 +69,7 @@ TEST_F(AtomicFile, WhatIsNoOrdinaryFileIsWrittenTo) {
     reader.join();
     EXPECT_EQ(read, "through");
     EXPECT_TRUE(fs::is_fifo(pipe));
-    WriteFileAtomically(u"/dev/null", "gone");
+    WriteFileAtomically("/dev/null", "gone");
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
@@ -91,7 +91,7 @@ TEST_F(AtomicFile, FailureNamesFileAndLeavesTheOldOne) {
     };
     for (const Row& row : rows) {
         try {
-            WriteFileAtomically(FromUtf8(row.path), "new");
+            WriteFileAtomically(row.path, "new");
             ADD_FAILURE() << row.why << ": written";
         } catch (const RuntimeError& failure) {
             EXPECT_EQ(failure.number, row.number) << row.why << ": " << failure.what();

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "core/utilities/encoding.h"
 #include "readers/exported_module.h"
 #include "support/documents/compound_file_writer.h"
@@ -137,6 +139,21 @@ TEST(Workspace, DocumentWhoseCodeALimitKeptIsNotEmpty) {
     EXPECT_EQ(opened.unreadable.size(), 1U);
 }
 
+TEST(Workspace, DocumentIsKnownByItsContent) {
+    const TemporaryFolder folder;
+    test::TestProject project;
+    project.modules = {test::StandardModule(u"M", "Dim a")};
+    const std::string document = test::WriteCompoundFile(test::WriteProject(project)).bytes;
+    for (const char* name : {"a.bas", "b", "c.txt"}) WriteFile(folder.path / name, document);
+    WriteFile(folder.path / "m.bas", "Dim a\n");
+    const Workspace opened = Open({folder.path.string()}, {});
+    EXPECT_TRUE(opened.Complete());
+    EXPECT_EQ(std::count_if(opened.projects.begin(), opened.projects.end(),
+                            [](const OpenedProject& one) { return one.isDocument; }),
+              3);
+    EXPECT_EQ(opened.projects.size(), 4U);
+}
+
 TEST(Workspace, NothingToReadIsNoCleanResult) {
     const TemporaryFolder folder;
     WriteFile(folder.path / "readme.txt", "x");
@@ -163,13 +180,21 @@ TEST(SettingsFile, KeepsWhatTwoProcessesWrite) {
     EXPECT_FALSE(first.Problem() || second.Problem() || third.Problem());
 }
 
+TEST(SettingsFile, TakesTheLineEndsOfOtherSystems) {
+    const TemporaryFolder folder;
+    WriteFile(folder.path / "settings.ini", "[App\\S]\r\na=0\r\nb=x\\r\r\n");
+    SettingsFile store((folder.path / "settings.ini").string());
+    EXPECT_EQ(store.GetSetting(u"App", u"S", u"a"), u"0");
+    EXPECT_EQ(store.GetSetting(u"App", u"S", u"b"), u"x\r") << "a value's own line end is escaped";
+}
+
 TEST(SettingsFile, TellsWhatItCannotWrite) {
     const TemporaryFolder folder;
     WriteFile(folder.path / "file", "x");
     SettingsFile store((folder.path / "file/settings.ini").string());
     store.SaveSetting(u"App", u"S", u"a", u"1");
     store.Flush();
-    EXPECT_TRUE(store.Problem());
+    EXPECT_EQ(store.Problem(), "Not a directory");
     EXPECT_EQ(store.GetSetting(u"App", u"S", u"a"), u"1") << "the value holds for this run";
 }
 
