@@ -77,8 +77,9 @@ StartPage::StartPage(const Words& words)
 void StartPage::Retranslate() {
     title_->setText(words_(Word::WelcomeTitle));
     text_->setText(words_(Word::WelcomeText));
-    openFile_->setText(words_(Word::OpenFile));
-    openFolder_->setText(words_(Word::OpenFolder));
+    // The access keys belong to the entries of the menu: here they would take those of the menu bar and the pane.
+    openFile_->setText(words_(Word::OpenFile).remove(u'&'));
+    openFolder_->setText(words_(Word::OpenFolder).remove(u'&'));
     recentTitle_->setText(words_(Word::WelcomeRecent));
 }
 
