@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <filesystem>
 
 #include "cli/words.h"
 #include "core/language/messages.h"
@@ -13,18 +14,25 @@ namespace zentlor::cli {
 
 namespace {
 
+std::string WithoutBlanks(const std::string& text) {
+    const auto begin = text.find_first_not_of(' ');
+    return begin == std::string::npos ? std::string() : text.substr(begin, text.find_last_not_of(' ') - begin + 1);
+}
+
 // Keys come separated by commas; one that nobody knows is answered with the nearest known one.
 std::vector<CheckId> ParseKeys(const std::vector<std::string>& keys, const char* option) {
     std::vector<std::string> known;
     known.reserve(std::size(kCatalogue));
     for (const CheckInfo& check : kCatalogue) known.push_back(ToUtf8(check.key));
     std::vector<CheckId> result;
-    for (const std::string& key : keys) {
+    for (const std::string& word : keys) {
+        const std::string key = WithoutBlanks(word);
         const auto found = std::find(known.begin(), known.end(), key);
         if (found == known.end()) {
+            const std::string nearest = NearestWord(key, known);
             throw CLI::ValidationError(
-                option, fmt::format("there is no check \"{}\"; did you mean \"{}\"? `zentlor checks` lists all of them",
-                                    Printable(key), NearestWord(key, known)));
+                option, fmt::format("there is no check \"{}\"; {}`zentlor checks` lists all of them", Printable(key),
+                                    nearest.empty() ? "" : fmt::format("did you mean \"{}\"? ", nearest)));
         }
         result.push_back(kCatalogue[static_cast<std::size_t>(found - known.begin())].id);
     }
@@ -37,7 +45,9 @@ class CommandLine {
     CommandLine() {
         app_.set_version_flag("--version", "zentlor " ZENTLOR_VERSION);
         app_.require_subcommand(1);
-        app_.footer("Exit status: 0 no hints, 1 hints, 2 wrong usage, unreadable input or a failure.");
+        app_.footer(
+            "Exit status: 0 no hints, 1 hints or compile errors, 2 wrong usage, unreadable input or a failure,\n"
+            "130 stopped with Ctrl+C.");
         AddCheck();
         AddDump();
         AddChecks();
@@ -48,6 +58,7 @@ class CommandLine {
 
     ParseResult Parse(int argc, const char* const* argv) {
         try {
+            RefuseUnknownCommand(argc, argv);
             app_.parse(argc, argv);
             arguments_.only = ParseKeys(only_, "--only");
             arguments_.ignore = ParseKeys(ignore_, "--ignore");
@@ -60,6 +71,24 @@ class CommandLine {
     }
 
   private:
+    // The parser itself would only say that it misses a command.
+    void RefuseUnknownCommand(int argc, const char* const* argv) const {
+        const std::string word = argc < 2 ? std::string() : argv[1];
+        if (word.starts_with('-')) return;
+        std::vector<std::string> known;
+        for (const CLI::App* sub : app_.get_subcommands({})) known.push_back(sub->get_name());
+        if (std::find(known.begin(), known.end(), word) != known.end()) return;
+        const std::string list = fmt::format("the commands are {}", fmt::join(known, ", "));
+        if (word.empty()) throw CLI::ValidationError("zentlor", "which command? " + list);
+        const std::string nearest = NearestWord(word, known);
+        std::error_code error;
+        const std::string way = std::filesystem::exists(word, error)
+                                    ? "to check that path, write `zentlor check` in front"
+                                : nearest.empty() ? list
+                                                  : fmt::format("did you mean \"{}\"?", nearest);
+        throw CLI::ValidationError("zentlor", fmt::format("there is no command \"{}\"; {}", Printable(word), way));
+    }
+
     CLI::App* AddVerb(Verb verb, const char* name, const char* description) {
         CLI::App* sub = app_.add_subcommand(name, description);
         sub->callback([this, verb] { arguments_.verb = verb; });
@@ -77,27 +106,30 @@ class CommandLine {
         const auto size = [&](const char* option, auto& value, const char* what) {
             sub->add_option(option, value, what)
                 ->transform(CLI::AsSizeValue(false))
+                ->transform(CLI::Validator(
+                    [](std::string& text) { return text.starts_with('-') ? "a size is not negative" : std::string(); },
+                    {}))
                 ->capture_default_str()
                 ->group(kGroup);
         };
         size("--max-file-size", limits.fileBytes, "size of a file");
         size("--max-zip-part-size", limits.zipPartBytes,
-             "unpacked size of one part of a zip; by default not over 16 MB and four times the file");
+             "unpacked size of one part of a zip; if not given, at most 16 MB plus four times the file");
         size("--max-module-size", limits.moduleBytes, "text of one module");
         size("--max-source-size", limits.sourceBytes,
-             "text of all modules of one document; by default not over 4 MB and twice the file");
+             "text of all modules of one document; if not given, at most 4 MB plus twice the file");
         const auto count = [&](const char* option, auto& value, const char* what) {
             sub->add_option(option, value, what)->capture_default_str()->group(kGroup);
         };
         count("--max-zip-parts", limits.zipParts, "parts of a zip");
         count("--max-zip-ratio", limits.zipRatio, "unpacked to packed size, behind the first MiB");
-        count("--max-modules", limits.modules, "modules of one project");
+        count("--max-modules", limits.modules, "modules of one document");
         count("--max-storage-depth", limits.storageDepth, "nested storages of a compound file");
         count("--max-storage-entries", limits.storageEntries, "storages and streams of a compound file");
     }
 
     void AddLanguage(CLI::App* sub) {
-        sub->add_option("--language", language_, "Language of the hints (default: the stored one, at first German)")
+        sub->add_option("--language", language_, "Language of the output (default: the stored one, at first German)")
             ->check(CLI::IsMember({"de", "en"}));
     }
 
@@ -113,8 +145,8 @@ class CommandLine {
         AddPaths(sub);
         AddFormat(sub, {"text", "jsonl", "txt", "csv"});
         sub->add_option("-o,--output", arguments_.output, "Write to this file instead of standard output");
-        sub->add_option("--only", only_, "Run these checks and no others")->delimiter(',');
-        sub->add_option("--ignore", ignore_, "Leave these checks out")->delimiter(',');
+        sub->add_option("--only", only_, "Run these checks and no others")->delimiter(',')->allow_extra_args(false);
+        sub->add_option("--ignore", ignore_, "Leave these checks out")->delimiter(',')->allow_extra_args(false);
         sub->add_option("--component", arguments_.component, "Check this one component only");
         sub->add_option("--require-declaration", arguments_.requireDeclaration,
                         "The editor's setting \"Require Variable Declaration\" (default: 1)")

@@ -23,7 +23,7 @@ struct Arguments {
     // check
     std::vector<CheckId> only;
     std::vector<CheckId> ignore;
-    std::string component;
+    std::optional<std::string> component;
     std::string requireDeclaration = "1";
     std::string settings;
     bool isolated = false;

@@ -47,10 +47,11 @@ class RunSettings {
         if (!file_) return;
         file_->Flush();
         if (!file_->Problem()) return;
-        fmt::print(stderr, "{}\n",
-                   Say(sprache, "Die Einstellungen in „[%1]“ sind nicht verfügbar ([%2]); es gelten die Vorgaben.",
-                       "The settings in “[%1]” are not available ([%2]); the defaults apply.",
-                       {Printable(file_->Path()), Printable(*file_->Problem())}));
+        Tell(Say(sprache,
+                 "Die Einstellungen in „[%1]“ sind nicht lesbar oder nicht schreibbar ([%2]); was fehlt, hat seine "
+                 "Vorgabe.",
+                 "The settings in “[%1]” cannot be read or written ([%2]); what is missing has its default.",
+                 {Printable(file_->Path()), Printable(*file_->Problem())}));
     }
 
   private:
@@ -72,7 +73,7 @@ class CheckCommand {
         ConsoleHost::WatchInterrupt();
         ReadOptions();
         OpenPaths();
-        if (!arguments_.component.empty() && !ComponentExists()) return kTrouble;
+        if (arguments_.component && !opened_.projects.empty() && !ComponentExists()) return kTrouble;
         const auto start = std::chrono::steady_clock::now();
         for (workspace::OpenedProject& project : opened_.projects) {
             if (!ConsoleHost::Interrupted()) CheckProject(project);
@@ -81,7 +82,7 @@ class CheckCommand {
         const std::string bytes = report_->Finish(session_, opened_);
         written_ = written_ && WriteOutput(arguments_.output, bytes, sprache_);
         if (ConsoleHost::Interrupted()) {
-            fmt::print(stderr, "{}\n", ToUtf8(session_.GetResourceString(216)));
+            Tell(ToUtf8(session_.GetResourceString(216)));
             return kInterrupted;
         }
         const bool trouble = !written_ || refused_ || !opened_.Complete() || session_.FailureCount() > 0;
@@ -123,27 +124,33 @@ class CheckCommand {
         for (const workspace::OpenedProject& project : opened_.projects) {
             for (const auto& component : project.project->VBComponents()) known.push_back(ToUtf8(component->Name()));
         }
-        if (std::find(known.begin(), known.end(), arguments_.component) != known.end()) return true;
-        fmt::print(stderr, "{}\n",
-                   Say(sprache_, "Es gibt keine Komponente „[%1]“; am ähnlichsten ist „[%2]“.",
-                       "There is no component “[%1]”; the most similar one is “[%2]”.",
-                       {Printable(arguments_.component), Printable(NearestWord(arguments_.component, known))}));
+        const std::string& wanted = *arguments_.component;
+        if (std::find(known.begin(), known.end(), wanted) != known.end()) return true;
+        const std::string nearest = NearestWord(wanted, known);
+        if (nearest.empty()) {
+            Tell(Say(sprache_, "Es gibt keine Komponente „[%1]“; `zentlor info` nennt alle.",
+                     "There is no component “[%1]”; `zentlor info` names all of them.", {Printable(wanted)}));
+        } else {
+            Tell(Say(sprache_, "Es gibt keine Komponente „[%1]“; am ähnlichsten ist „[%2]“.",
+                     "There is no component “[%1]”; the most similar one is “[%2]”.",
+                     {Printable(wanted), Printable(nearest)}));
+        }
         return false;
     }
 
     void CheckProject(workspace::OpenedProject& project) {
         host_.SetProject(*project.project, project.errors.empty() || arguments_.uncompiled);
         if (arguments_.uncompiled) PrintErrors(project);
-        const RunResult result = arguments_.component.empty() ? AlleModulePrüfen(session_) : CheckComponent(project);
+        const RunResult result = arguments_.component ? CheckComponent(project) : AlleModulePrüfen(session_);
         host_.ClearProgressLine();
         if (result == RunResult::Refused) {
             refused_ = refused_ || !project.errors.empty();
-            if (!arguments_.uncompiled) PrintErrors(project);
+            if (!arguments_.uncompiled) TellRefusal(project);
             return;
         }
         found_ = found_ || session_.lvwErgebnis.Count() > 0;
         report_->AddProject(session_, project);
-        if (result == RunResult::Finished) report_->AddStatus(ToUtf8(host_.Panel(1)), ToUtf8(host_.Panel(2)));
+        if (result == RunResult::Finished) report_->AddStatus(project, ToUtf8(host_.Panel(1)), ToUtf8(host_.Panel(2)));
         // The check of the editor's setting is about no project: once is enough.
         session_.udtOptionen[CheckId::ModOptionExplicitAutomatisch] = false;
         session_.lvwErgebnis.Clear();
@@ -152,7 +159,7 @@ class CheckCommand {
     // In a workspace of several projects each one that has the component is checked.
     RunResult CheckComponent(const workspace::OpenedProject& project) {
         RunResult result = RunResult::Refused;
-        const Text name = FromUtf8(arguments_.component);
+        const Text name = FromUtf8(*arguments_.component);
         session_.ActiveVBProject();
         for (const auto& component : project.project->VBComponents()) {
             if (component->Name() != name) continue;
@@ -162,19 +169,26 @@ class CheckCommand {
         return result;
     }
 
-    void PrintErrors(const workspace::OpenedProject& project) {
-        for (const workspace::CompileError& error : project.errors) {
-            fmt::print(stderr, "{}\n", CompileErrorLine(project, error, sprache_));
-        }
+    void PrintErrors(const workspace::OpenedProject& project) const {
+        for (const workspace::CompileError& error : project.errors) Tell(CompileErrorLine(project, error, sprache_));
+    }
+
+    // What the gate's own words leave out: which project, why, and the way round it.
+    void TellRefusal(const workspace::OpenedProject& project) const {
+        if (project.errors.empty()) return;
+        PrintErrors(project);
+        Tell(Say(sprache_, "„[%1]“ wurde nicht geprüft; --uncompiled prüft auch, was sich nicht kompilieren lässt.",
+                 "“[%1]” was not checked; --uncompiled checks what does not compile as well.",
+                 {Printable(project.document.path)}));
     }
 
     void PrintStageTimes(std::chrono::steady_clock::duration checks) const {
         constexpr double kMs = 1000;
-        fmt::print(stderr,
-                   "stages: read {:.1f} ms, tokens {:.1f} ms, canonical {:.1f} ms, syntax {:.1f} ms, index {:.1f} ms, "
-                   "checks {:.1f} ms\n",
-                   times_.read * kMs, times_.tokens * kMs, times_.canonical * kMs, times_.syntax * kMs,
-                   times_.index * kMs, std::chrono::duration<double>(checks).count() * kMs);
+        Tell(fmt::format(
+            "stages: read {:.1f} ms, tokens {:.1f} ms, canonical {:.1f} ms, syntax {:.1f} ms, index {:.1f} ms, "
+            "checks {:.1f} ms",
+            times_.read * kMs, times_.tokens * kMs, times_.canonical * kMs, times_.syntax * kMs, times_.index * kMs,
+            std::chrono::duration<double>(checks).count() * kMs));
     }
 
     const Arguments& arguments_;

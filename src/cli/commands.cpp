@@ -22,16 +22,36 @@ namespace {
 namespace fs = std::filesystem;
 
 // The path beside `path` whose name is most like it, for a path that does not exist; empty if there is none.
-std::string NearestPath(const std::string& path) {
+std::string NearestPath(const std::string& given) {
+    const std::string path = given.substr(0, given.find_last_not_of('/') + 1);
     const fs::path parent = fs::path(path).parent_path();
     std::vector<std::string> names;
     std::error_code error;
     fs::directory_iterator entry(parent.empty() ? fs::path(".") : parent, error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        names.push_back(entry->path().filename().string());
+        const fs::path name = entry->path().filename();
+        // A link that leads nowhere is there and does not exist.
+        if (name != fs::path(path).filename()) names.push_back(name.string());
     }
     const std::string nearest = NearestWord(fs::path(path).filename().string(), names);
     return nearest.empty() ? std::string() : (parent / nearest).string();
+}
+
+// Why a file was not written; the numbers are those of WriteFileAtomically.
+readers::Sentence ReasonOf(const RuntimeError& error) {
+    switch (error.number) {
+        case 76:
+            return {"den Ordner gibt es nicht", "its folder does not exist"};
+        case 75:
+            return {"es ist ein Ordner, oder der Name ist nicht verwendbar",
+                    "it is a folder, or its name cannot be used"};
+        case 70:
+            return {"die Zugriffsrechte fehlen", "permission denied"};
+        case 61:
+            return {"der Datenträger ist voll", "the disk is full"};
+        default:
+            return {"der Datenträger meldet einen Fehler", "a fault of the device"};
+    }
 }
 
 }  // namespace
@@ -54,6 +74,16 @@ int Run(const Arguments& arguments) {
     return kTrouble;
 }
 
+workspace::Workspace OpenFor(const Arguments& arguments, bool keepRawCode, int sprache) {
+    workspace::OpenOptions options;
+    options.limits = arguments.limits;
+    options.projectPerFolder = arguments.projectPerFolder;
+    options.keepRawCode = keepRawCode;
+    workspace::Workspace opened = workspace::Open(arguments.paths, options);
+    PrintTroubles(opened, sprache);
+    return opened;
+}
+
 int LanguageOf(const Arguments& arguments) {
     if (arguments.sprache != 0) return arguments.sprache;
     workspace::SettingsFile store(workspace::DefaultSettingsPath());
@@ -62,21 +92,17 @@ int LanguageOf(const Arguments& arguments) {
 
 void PrintTroubles(const workspace::Workspace& opened, int sprache) {
     for (const workspace::Unreadable& unreadable : opened.unreadable) {
-        fmt::print(stderr, "{}\n", Printable(InLanguage(unreadable.sentence, sprache)));
+        Tell(Printable(InLanguage(unreadable.sentence, sprache)));
         if (unreadable.failure != readers::ReadFailure::NotFound) continue;
         const std::string nearest = NearestPath(unreadable.path);
         if (nearest.empty()) continue;
-        fmt::print(
-            stderr, "{}\n",
-            Say(sprache, "Am ähnlichsten ist „[%1]“.", "The most similar path is “[%1]”.", {Printable(nearest)}));
+        Tell(Say(sprache, "Am ähnlichsten ist „[%1]“.", "The most similar path is “[%1]”.", {Printable(nearest)}));
     }
     for (const readers::Sentence& problem : opened.problems) {
-        fmt::print(stderr, "{}\n", Printable(InLanguage(problem, sprache)));
+        Tell(Printable(InLanguage(problem, sprache)));
     }
     for (const readers::Document& document : opened.empty) {
-        fmt::print(
-            stderr, "{}\n",
-            Say(sprache, "„[%1]“ enthält keinen VBA-Code.", "“[%1]” holds no VBA code.", {Printable(document.path)}));
+        Tell(Say(sprache, "„[%1]“ enthält keinen VBA-Code.", "“[%1]” holds no VBA code.", {Printable(document.path)}));
     }
 }
 
@@ -94,23 +120,21 @@ std::string CompileErrorLine(const workspace::OpenedProject& project, const work
 }
 
 bool WriteOutput(const std::string& path, const std::string& bytes, int sprache) {
-    std::string reason;
     if (path.empty()) {
         const bool written = std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size();
         if (written && std::fflush(stdout) == 0) return true;
-        reason = std::strerror(errno);
-    } else {
-        try {
-            workspace::WriteFileAtomically(FromUtf8(path), bytes);
-            return true;
-        } catch (const RuntimeError& error) {
-            reason = error.what();
-        }
+        Tell(Say(sprache, "Die Ausgabe wurde nicht geschrieben: [%1].", "The output was not written: [%1].",
+                 {std::strerror(errno)}));
+        return false;
     }
-    fmt::print(stderr, "{}\n",
-               Say(sprache, "Die Ausgabe wurde nicht geschrieben: [%1]", "The output was not written: [%1]",
-                   {Printable(reason)}));
-    return false;
+    try {
+        workspace::WriteFileAtomically(path, bytes);
+        return true;
+    } catch (const RuntimeError& error) {
+        Tell(Say(sprache, "„[%1]“ wurde nicht geschrieben: [%2].", "“[%1]” was not written: [%2].",
+                 {Printable(path), InLanguage(ReasonOf(error), sprache)}));
+        return false;
+    }
 }
 
 }  // namespace zentlor::cli

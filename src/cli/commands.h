@@ -20,6 +20,9 @@ int Run(const Arguments& arguments);
 /// The language for a verb that keeps no settings: as asked for, else as stored, without writing the store.
 int LanguageOf(const Arguments& arguments);
 
+/// Opens the paths of `arguments` and tells what could not be read. `keepRawCode`: see workspace::OpenOptions.
+workspace::Workspace OpenFor(const Arguments& arguments, bool keepRawCode, int sprache);
+
 /// Tells on standard error what could not be read, a line each.
 void PrintTroubles(const workspace::Workspace& opened, int sprache);
 

@@ -58,8 +58,10 @@ void ConsoleHost::SetTest(TextView text) {
     if (!terminal_ || SteadyClock::now() < nextLine_) return;
     nextLine_ = SteadyClock::now() + kBetweenLines;
     lineShown_ = true;
-    fmt::print(stderr, "\r\033[K[{}/{}] {}: {}", value_, maximum_, Printable(object_), Printable(text));
-    std::fflush(stderr);
+    // A line that is wider than the terminal is cut there: only one that does not wrap can be cleared.
+    const std::string line =
+        fmt::format("\r\033[K\033[?7l[{}/{}] {}: {}\033[?7h", value_, maximum_, Printable(object_), Printable(text));
+    std::fputs(line.c_str(), stderr);
 }
 
 void ConsoleHost::ClearProgressLine() {
@@ -73,11 +75,11 @@ void ConsoleHost::DoEvents() {
 
 void ConsoleHost::Show(TextView text, BoxIcon, TextView title) {
     ClearProgressLine();
-    if (!title.empty()) fmt::print(stderr, "{}\n", Printable(title));
+    if (!title.empty()) Tell(Printable(title));
     const Text lines = ReplaceAll(text, u"\r\n", u"\n");
     for (std::size_t begin = 0; begin <= lines.size();) {
         const std::size_t end = std::min(lines.find(u'\n', begin), lines.size());
-        fmt::print(stderr, "{}\n", Printable(TextView(lines).substr(begin, end - begin)));
+        Tell(Printable(TextView(lines).substr(begin, end - begin)));
         begin = end + 1;
     }
 }

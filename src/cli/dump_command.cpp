@@ -17,16 +17,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-workspace::Workspace OpenFor(const Arguments& arguments, bool keepRawCode, int sprache) {
-    workspace::OpenOptions options;
-    options.limits = arguments.limits;
-    options.projectPerFolder = arguments.projectPerFolder;
-    options.keepRawCode = keepRawCode;
-    workspace::Workspace opened = workspace::Open(arguments.paths, options);
-    PrintTroubles(opened, sprache);
-    return opened;
-}
-
 std::vector<TextView> LinesOf(TextView code) {
     std::vector<TextView> lines;
     for (std::size_t begin = 0; begin < code.size();) {

@@ -12,6 +12,7 @@
 
 #include "cli/commands.h"
 #include "cli/words.h"
+#include "core/language/messages.h"
 #include "core/utilities/encoding.h"
 #include "workspace/export_module.h"
 
@@ -20,16 +21,6 @@ namespace zentlor::cli {
 namespace {
 
 namespace fs = std::filesystem;
-
-workspace::Workspace OpenFor(const Arguments& arguments, int sprache) {
-    workspace::OpenOptions options;
-    options.limits = arguments.limits;
-    options.projectPerFolder = arguments.projectPerFolder;
-    options.keepRawCode = true;
-    workspace::Workspace opened = workspace::Open(arguments.paths, options);
-    PrintTroubles(opened, sprache);
-    return opened;
-}
 
 // Writes files into one folder and nowhere else: names have no separators, and no link is followed.
 class Extractor {
@@ -44,11 +35,16 @@ class Extractor {
             fs::path folder = arguments_.output;
             if (several) folder /= Unused(workspace::PlainFileName(FromUtf8(stem)), "");
             used_.clear();
+            if (!MakeFolder(folder)) continue;
             for (const auto& component : project.project->VBComponents()) WriteModule(folder, project, *component);
         }
-        fmt::print("{}\n", Say(sprache_, "[%1] Module nach „[%2]“ geschrieben.", "[%1] modules written to “[%2]”.",
-                               {std::to_string(written_), Printable(arguments_.output)}));
-        return failed_ || !opened.Complete() ? kTrouble : kNoHints;
+        const std::string modules = Counted(written_, sprache_, {"Modul", "Module"}, {"module", "modules"});
+        const bool told = WriteOutput({},
+                                      Say(sprache_, "[%1] nach „[%2]“ geschrieben.", "[%1] written to “[%2]”.",
+                                          {modules, Printable(arguments_.output)}) +
+                                          "\n",
+                                      sprache_);
+        return failed_ || !told || !opened.Complete() ? kTrouble : kNoHints;
     }
 
   private:
@@ -64,88 +60,109 @@ class Extractor {
         return name;
     }
 
+    bool MakeFolder(const fs::path& folder) {
+        std::error_code error;
+        fs::create_directories(folder, error);
+        if (!error) return true;
+        failed_ = true;
+        Tell(Say(sprache_, "Der Ordner „[%1]“ kann nicht angelegt werden ([%2]); einen anderen angeben.",
+                 "The folder “[%1]” cannot be made ([%2]); name another one.",
+                 {Printable(folder.string()), error.message()}));
+        return false;
+    }
+
     void WriteModule(const fs::path& folder, const workspace::OpenedProject& project, const VBComponent& component) {
         const fs::path plain = workspace::ExportFileName(component);
         const fs::path path = folder / Unused(plain.stem().string(), plain.extension().string());
         std::error_code ignored;
-        fs::create_directories(folder, ignored);
         if (arguments_.force && fs::is_regular_file(fs::symlink_status(path, ignored))) fs::remove(path, ignored);
         int lost = 0;
         const Text text = workspace::ExportText(project, component);
         const std::string bytes = arguments_.utf8 ? "\xEF\xBB\xBF" + ToUtf8(text) : ToWindows1252(text, &lost);
-        if (!WriteNewFile(path.string(), bytes)) {
+        if (const int error = WriteNewFile(path.string(), bytes); error != 0) {
             failed_ = true;
-            fmt::print(stderr, "{}\n", Refusal(path.string()));
+            Tell(Refusal(path.string(), error));
             return;
         }
         ++written_;
         if (lost == 0) return;
         failed_ = true;
-        fmt::print(stderr, "{}\n",
-                   Say(sprache_, "In „[%1]“ hat Windows-1252 [%2] Zeichen nicht; --utf8 erhält sie.",
-                       "In “[%1]” Windows-1252 lacks [%2] characters; --utf8 keeps them.",
-                       {Printable(path.string()), std::to_string(lost)}));
+        const auto characters = static_cast<std::size_t>(lost);
+        Tell(Say(sprache_, "Windows-1252 hat [%2] aus „[%1]“ nicht; --utf8 behält alle.",
+                 "Windows-1252 lacks [%2] of “[%1]”; --utf8 keeps all.",
+                 {Printable(path.string()),
+                  Counted(characters, sprache_, {"Zeichen", "Zeichen"}, {"character", "characters"})}));
     }
 
-    static bool WriteNewFile(const std::string& path, const std::string& bytes) {
+    // The error's number, 0 if all was written. A file that took a part only is removed.
+    static int WriteNewFile(const std::string& path, const std::string& bytes) {
         const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-        if (descriptor < 0) return false;
-        std::size_t written = 0;
-        while (written < bytes.size()) {
+        if (descriptor < 0) return errno;
+        int error = 0;
+        for (std::size_t written = 0; written < bytes.size() && error == 0;) {
             const ssize_t n = write(descriptor, bytes.data() + written, bytes.size() - written);
-            if (n <= 0) break;
-            written += static_cast<std::size_t>(n);
+            if (n >= 0) {
+                written += static_cast<std::size_t>(n);
+            } else if (errno != EINTR) {
+                error = errno;
+            }
         }
-        return close(descriptor) == 0 && written == bytes.size();
+        if (close(descriptor) != 0 && error == 0) error = errno;
+        if (error != 0) unlink(path.c_str());
+        return error;
     }
 
-    std::string Refusal(const std::string& path) const {
-        if (errno == EEXIST) {
+    std::string Refusal(const std::string& path, int error) const {
+        if (error == EEXIST) {
             return Say(sprache_, "„[%1]“ gibt es schon; --force ersetzt vorhandene Dateien.",
                        "“[%1]” exists already; --force replaces files that exist.", {Printable(path)});
         }
         return Say(sprache_, "„[%1]“ wurde nicht geschrieben: [%2].", "“[%1]” was not written: [%2].",
-                   {Printable(path), std::strerror(errno)});
+                   {Printable(path), std::strerror(error)});
     }
 
     const Arguments& arguments_;
     int sprache_;
     std::set<Text> used_;
-    int written_ = 0;
+    std::size_t written_ = 0;
     bool failed_ = false;
 };
 
-// Prints the page about one project or document.
-class InfoPage {
+// The pages about projects and documents.
+class InfoPages {
   public:
-    explicit InfoPage(int sprache) : sprache_(sprache) {}
+    explicit InfoPages(int sprache) : sprache_(sprache) {}
 
-    void Print(const readers::Document& document) const {
-        fmt::print("{}\n", Printable(document.path));
+    void Add(const readers::Document& document) {
+        text += Printable(document.path) + "\n";
         const std::string description = InLanguage(document.description, sprache_);
         Row("Art", "Kind", description.empty() ? Word("exportierte Module", "exported modules") : description);
         Row("Programm", "Application", document.application);
-        Row("Projekt", "Project", Printable(TextView(document.projectName)));
+        Row("Projekt", "Project", ToUtf8(document.projectName));
         Row("Codepage", "Code page", document.codePage == 0 ? "" : std::to_string(document.codePage));
-        if (document.locked)
+        if (document.locked) {
             Row("Gesperrt", "Locked",
                 Word("ja, der Quelltext ist trotzdem lesbar", "yes, the source is readable all the same"));
-        for (const Text& reference : document.references) Row("Verweis", "Reference", Printable(TextView(reference)));
+        }
+        for (const Text& reference : document.references) Row("Verweis", "Reference", ToUtf8(reference));
     }
 
-    void PrintModules(const workspace::OpenedProject& project) const {
+    void AddModules(const workspace::OpenedProject& project) {
         for (const auto& component : project.project->VBComponents()) {
             const int lines = component->CodeModule().CountOfLines();
-            fmt::print("  {:<40}{:<22}{:>7} {}\n", Printable(TextView(component->Name())), TypeWord(component->Type()),
-                       lines, lines == 1 ? Word("Zeile", "line") : Word("Zeilen", "lines"));
+            text += fmt::format("  {:<40}{:<22}{:>7} {}\n", Printable(TextView(component->Name())),
+                                TypeWord(component->Type()), lines,
+                                lines == 1 ? Word("Zeile", "line") : Word("Zeilen", "lines"));
         }
     }
 
-    std::string Word(const char* german, const char* english) const { return sprache_ == 2 ? english : german; }
+    std::string text;
 
   private:
-    void Row(const char* german, const char* english, const std::string& value) const {
-        if (!value.empty()) fmt::print("  {:<13}{}\n", Word(german, english) + ":", Printable(value));
+    std::string Word(const char* german, const char* english) const { return sprache_ == kEnglish ? english : german; }
+
+    void Row(const char* german, const char* english, const std::string& value) {
+        if (!value.empty()) text += fmt::format("  {:<13}{}\n", Word(german, english) + ":", Printable(value));
     }
 
     std::string TypeWord(int type) const {
@@ -168,19 +185,20 @@ class InfoPage {
 
 int RunExtract(const Arguments& arguments) {
     const int sprache = LanguageOf(arguments);
-    return Extractor(arguments, sprache).Run(OpenFor(arguments, sprache));
+    return Extractor(arguments, sprache).Run(OpenFor(arguments, true, sprache));
 }
 
 int RunInfo(const Arguments& arguments) {
     const int sprache = LanguageOf(arguments);
-    const workspace::Workspace opened = OpenFor(arguments, sprache);
-    const InfoPage page(sprache);
+    const workspace::Workspace opened = OpenFor(arguments, false, sprache);
+    InfoPages pages(sprache);
     for (const workspace::OpenedProject& project : opened.projects) {
-        page.Print(project.document);
-        page.PrintModules(project);
+        pages.Add(project.document);
+        pages.AddModules(project);
     }
-    for (const readers::Document& document : opened.empty) page.Print(document);
-    return opened.Complete() ? kNoHints : kTrouble;
+    for (const readers::Document& document : opened.empty) pages.Add(document);
+    const bool written = WriteOutput({}, pages.text, sprache);
+    return written && opened.Complete() ? kNoHints : kTrouble;
 }
 
 }  // namespace zentlor::cli

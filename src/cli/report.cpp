@@ -79,22 +79,32 @@ class TextReport : public Report {
         }
     }
 
-    void AddStatus(const std::string& hints, const std::string& duration) override {
-        status_ += fmt::format("{} {}\n", hints, duration);
+    void AddStatus(const workspace::OpenedProject& project, const std::string& hints,
+                   const std::string& duration) override {
+        status_.push_back({Printable(project.document.path), hints + " " + duration + "\n"});
     }
 
     std::string Finish(Session& session, const workspace::Workspace& opened) override {
         if (pieces_.hasBegun) pieces_.text += '\n';
-        pieces_.text += status_ + ReadSummary(opened, session.udtOptionen.AllgSprache) + "\n";
+        for (const Status& status : status_) {
+            if (opened.projects.size() > 1) pieces_.text += status.path + ": ";
+            pieces_.text += status.text;
+        }
+        pieces_.text += ReadSummary(opened, session.udtOptionen.AllgSprache) + "\n";
         return std::move(pieces_.text);
     }
 
   private:
+    struct Status {
+        std::string path;
+        std::string text;
+    };
+
     const char* bold_;
     const char* dim_;
     const char* off_;
     Pieces pieces_;
-    std::string status_;
+    std::vector<Status> status_;
     const workspace::ModuleOrigin* lastOrigin_ = nullptr;
     // Of the module that the last hint was about, ready to be printed.
     std::string path_;
@@ -111,7 +121,7 @@ class JsonReport : public Report {
         pieces_.MakeRoom(session.lvwErgebnis.Count());
         for (const Hint& hint : session.lvwErgebnis.Emitted()) AddHint(hint, project);
     }
-    void AddStatus(const std::string&, const std::string&) override {}
+    void AddStatus(const workspace::OpenedProject&, const std::string&, const std::string&) override {}
     std::string Finish(Session&, const workspace::Workspace&) override { return std::move(pieces_.text); }
 
   private:
@@ -147,7 +157,7 @@ class RecordReport : public Report {
         const auto& emitted = session.lvwErgebnis.Emitted();
         hints_.insert(hints_.end(), emitted.begin(), emitted.end());
     }
-    void AddStatus(const std::string&, const std::string&) override {}
+    void AddStatus(const workspace::OpenedProject&, const std::string&, const std::string&) override {}
 
     std::string Finish(Session& session, const workspace::Workspace&) override {
         session.lvwErgebnis.Clear();
@@ -159,17 +169,6 @@ class RecordReport : public Report {
     bool csv_;
     std::vector<Hint> hints_;
 };
-
-struct Forms {
-    const char* one;
-    const char* many;
-};
-
-// A number with its word: "1 Modul", "2 Module".
-std::string Count(std::size_t number, int sprache, Forms german, Forms english) {
-    const Forms& forms = sprache == kEnglish ? english : german;
-    return fmt::format("{} {}", number, number == 1 ? forms.one : forms.many);
-}
 
 }  // namespace
 
@@ -206,9 +205,9 @@ std::string ReadSummary(const workspace::Workspace& opened, int sprache) {
         lines += static_cast<std::size_t>(project.LineCount());
     }
     std::string text = Say(sprache, "Gelesen: [%1], [%2], [%3]", "Read: [%1], [%2], [%3]",
-                           {Count(opened.projects.size(), sprache, {"Projekt", "Projekte"}, {"project", "projects"}),
-                            Count(modules, sprache, {"Modul", "Module"}, {"module", "modules"}),
-                            Count(lines, sprache, {"Zeile", "Zeilen"}, {"line", "lines"})});
+                           {Counted(opened.projects.size(), sprache, {"Projekt", "Projekte"}, {"project", "projects"}),
+                            Counted(modules, sprache, {"Modul", "Module"}, {"module", "modules"}),
+                            Counted(lines, sprache, {"Zeile", "Zeilen"}, {"line", "lines"})});
     if (!opened.empty.empty()) {
         text +=
             Say(sprache, "; ohne VBA-Code: [%1]", "; without VBA code: [%1]", {std::to_string(opened.empty.size())});

@@ -19,7 +19,8 @@ class Report {
     /// checked.
     virtual void AddProject(Session& session, const workspace::OpenedProject& project) = 0;
     /// Takes the closing texts of a project's run, which only a report for people shows.
-    virtual void AddStatus(const std::string& hints, const std::string& duration) = 0;
+    virtual void AddStatus(const workspace::OpenedProject& project, const std::string& hints,
+                           const std::string& duration) = 0;
     /// The report, or what no `PieceWriter` has got of it, in the bytes in which it is written. `opened` is everything
     /// that was read.
     virtual std::string Finish(Session& session, const workspace::Workspace& opened) = 0;

@@ -1,10 +1,9 @@
-#include <fmt/format.h>
-
-#include <cstdio>
 #include <exception>
+#include <string>
 
 #include "cli/commands.h"
 #include "cli/heap.h"
+#include "cli/words.h"
 
 int main(int argc, char** argv) {
     using namespace zentlor::cli;
@@ -13,7 +12,7 @@ int main(int argc, char** argv) {
         const ParseResult parsed = ParseArguments(argc, argv);
         return parsed.arguments ? Run(*parsed.arguments) : parsed.exitCode;
     } catch (const std::exception& error) {
-        fmt::print(stderr, "zentlor: {}\n", error.what());
+        Tell(std::string("zentlor: ") + error.what());
         return kTrouble;
     }
 }
