@@ -57,7 +57,6 @@ class StatementParser : protected DeclarationParser {
 
     // parser_files.cpp
     bool ParseOpen();
-    bool ParseOpenLock();
     bool ParseFileArguments();
     bool ParseOutput();
     bool ParseOutputTail();
