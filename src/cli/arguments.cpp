@@ -46,8 +46,8 @@ class CommandLine {
         app_.set_version_flag("--version", "zentlor " ZENTLOR_VERSION);
         app_.require_subcommand(1);
         app_.footer(
-            "Exit status: 0 no hints, 1 hints or compile errors, 2 wrong usage, unreadable input or a failure,\n"
-            "130 stopped with Ctrl+C.");
+            "Exit status: 0 no hints, 1 hints (compile: errors), 2 wrong usage, unreadable input, a project that does\n"
+            "not compile or a failure, 130 stopped with Ctrl+C.");
         AddCheck();
         AddDump();
         AddChecks();

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <set>
+#include <filesystem>
 
 #include "cli/commands.h"
 #include "cli/console_host.h"
@@ -34,6 +34,8 @@ class RunSettings {
   public:
     explicit RunSettings(const Arguments& arguments) {
         if (arguments.isolated) return;
+        std::error_code error;
+        isNewByName_ = !arguments.settings.empty() && !std::filesystem::exists(arguments.settings, error);
         file_.emplace(arguments.settings.empty() ? workspace::DefaultSettingsPath() : arguments.settings);
     }
 
@@ -42,21 +44,27 @@ class RunSettings {
         return memory_;
     }
 
-    // Tells once, and only where it matters to the user, that the settings could not be read or kept.
+    // Writes what is new. Tells once, and only where it matters to the user, how it went.
     void Flush(int sprache) {
         if (!file_) return;
         file_->Flush();
-        if (!file_->Problem()) return;
-        Tell(Say(sprache,
-                 "Die Einstellungen in „[%1]“ sind nicht lesbar oder nicht schreibbar ([%2]); was fehlt, hat seine "
-                 "Vorgabe.",
-                 "The settings in “[%1]” cannot be read or written ([%2]); what is missing has its default.",
-                 {Printable(file_->Path()), Printable(*file_->Problem())}));
+        const std::string path = Printable(file_->Path());
+        if (file_->Problem()) {
+            Tell(Say(sprache,
+                     "Die Einstellungen in „[%1]“ sind nicht lesbar oder nicht schreibbar ([%2]); was fehlt, hat seine "
+                     "Vorgabe.",
+                     "The settings in “[%1]” cannot be read or written ([%2]); what is missing has its default.",
+                     {path, Printable(*file_->Problem())}));
+        } else if (isNewByName_) {  // a mistyped name would go unnoticed
+            Tell(Say(sprache, "Die Einstellungen „[%1]“ gab es nicht; die Datei wurde mit den Vorgaben angelegt.",
+                     "There were no settings “[%1]”; the file was made with the defaults.", {path}));
+        }
     }
 
   private:
     std::optional<workspace::SettingsFile> file_;
     workspace::SettingsInMemory memory_;
+    bool isNewByName_ = false;  // the user named a file that was not there
 };
 
 class CheckCommand {

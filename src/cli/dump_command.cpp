@@ -76,6 +76,7 @@ void AppendChangedLines(const workspace::OpenedProject& project, const VBCompone
     }
 }
 
+// In the JSON form, whatever the language.
 const char* NameOf(CheckGroup group) {
     switch (group) {
         case CheckGroup::Module:
@@ -117,12 +118,14 @@ int RunDump(const Arguments& arguments) {
 int RunChecks(const Arguments& arguments) {
     const int sprache = LanguageOf(arguments);
     const bool json = arguments.format == "json";
+    constexpr int kFirstTab = 119;  // the caption of the options dialog's tab, one for each group
     Json list = Json::array();
     std::string table;
     for (const CheckInfo& check : kCatalogue) {
         const std::string label = ToUtf8(GetResourceString(sprache, check.label));
         list.push_back({{"key", ToUtf8(check.key)}, {"group", NameOf(check.group)}, {"label", label}});
-        table += fmt::format("{:<50}{:<12}{}\n", ToUtf8(check.key), NameOf(check.group), label);
+        const std::string tab = ToUtf8(GetResourceString(sprache, kFirstTab + static_cast<int>(check.group)));
+        table += fmt::format("{:<50}{:<12}{}\n", ToUtf8(check.key), tab, label);
     }
     return WriteOutput({}, json ? list.dump(2) + "\n" : table, sprache) ? kNoHints : kTrouble;
 }

@@ -155,6 +155,16 @@ TEST_F(Program, AnOutputThatTakesNothingIsAFailureOfEachCommand) {
     }
 }
 
+TEST_F(Program, ListsTheChecksInTheLanguage) {
+    const std::string german = Zentlor("checks --language de").out;
+    EXPECT_EQ(CountLines(german), 45U);
+    EXPECT_NE(german.find(" Prozeduren  Leere Prozeduren sind vorhanden."), std::string::npos) << german;
+    const std::string english = Zentlor("checks --language en").out;
+    EXPECT_NE(english.find(" Procedures  There are empty procedures"), std::string::npos) << english;
+    EXPECT_NE(Zentlor("checks --language de --format json").out.find("\"group\": \"Procedures\""), std::string::npos)
+        << "programs read the group, whatever the language";
+}
+
 TEST_F(Program, FormatsKeepTheirForm) {
     const std::string module =
         Module("m.bas", "Attribute VB_Name = \"Mäuse\"\nOption Explicit\n\nSub Z()\n    Stop\nEnd Sub\n");
@@ -217,6 +227,9 @@ TEST_F(Program, SettingsAreReadAndCompleted) {
     EXPECT_EQ(Zentlor("check " + module + " --isolated").status, 1);
     EXPECT_EQ(Zentlor("check " + module + " --only ModLeer").status, 1);
     EXPECT_EQ(ReadFile(SettingsPath()), changed) << "a run's own choice was stored";
+    const std::string named = "check " + module + " --settings '" + (folder.path / "team.ini").string() + "'";
+    EXPECT_NE(Zentlor(named).err.find("team.ini“ gab es nicht"), std::string::npos) << "the name may be mistyped";
+    EXPECT_EQ(Zentlor(named).err, "");
     const ProgramResult unreadable = Zentlor("check " + module + " --settings /dev/null/settings");
     EXPECT_EQ(unreadable.status, 1) << "settings that cannot be used stop nothing";
     EXPECT_NE(unreadable.err.find("/dev/null/settings"), std::string::npos) << unreadable.err;
