@@ -106,14 +106,14 @@ void Opening::TellSuccess() {
         window_.ShowNotice(words_(Word::Reloaded));
         return;
     }
-    const QLocale locale(words_.English() ? QLocale::English : QLocale::German);
-    std::size_t modules = 0;
+    int modules = 0;
     int lines = 0;
     for (const workspace::OpenedProject& opened : projects_.All()) {
-        modules += opened.project->VBComponents().size();
+        modules += static_cast<int>(opened.project->VBComponents().size());
         lines += opened.LineCount();
     }
-    window_.ShowNotice(words_(Word::OpenedCount).arg(modules).arg(locale.toString(lines)));
+    window_.ShowNotice(words_.Counted(modules, Word::OneModule, Word::ManyModules) + QStringLiteral(", ") +
+                       words_.Counted(lines, Word::OneLine, Word::ManyLines));
 }
 
 void Opening::TellFaults(const workspace::Workspace& result) {

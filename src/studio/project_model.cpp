@@ -130,7 +130,7 @@ QString ProjectModel::ToolTip(const Node& node) const {
     }
     if (node.component == nullptr) return {};
     QString text = QString::fromStdString(opened.OriginOf(*node.component).path) + u'\n' +
-                   words_(Word::LineCount).arg(node.component->CodeModule().CountOfLines());
+                   words_.Counted(node.component->CodeModule().CountOfLines(), Word::OneLine, Word::ManyLines);
     for (const readers::FormLayout& layout : opened.document.layouts) {
         const Text name = (layout.report ? u"Report_" : u"Form_") + layout.name;
         if (name != node.component->Name() || layout.controls.empty()) continue;

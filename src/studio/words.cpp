@@ -1,5 +1,6 @@
 #include "studio/words.h"
 
+#include <QLocale>
 #include <array>
 
 namespace zentlor::studio {
@@ -22,6 +23,11 @@ constexpr std::array kRows = {
 QString Words::operator()(Word word) const {
     const Row& row = kRows[static_cast<std::size_t>(word)];
     return QString::fromUtf8(english_ ? row.english : row.german);
+}
+
+QString Words::Counted(int number, Word one, Word many) const {
+    const QLocale locale(english_ ? QLocale::English : QLocale::German);
+    return number == 1 ? (*this)(one) : (*this)(many).arg(locale.toString(number));
 }
 
 }  // namespace zentlor::studio

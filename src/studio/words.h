@@ -21,6 +21,8 @@ class Words {
     bool English() const { return english_; }
 
     QString operator()(Word word) const;
+    /// A number with its word, "1 Zeile" or "3.708 Zeilen"; `many` has the mark for the number.
+    QString Counted(int number, Word one, Word many) const;
     /// The language's half of a sentence that comes in both.
     template <class Sentence>
     QString Of(const Sentence& sentence) const {

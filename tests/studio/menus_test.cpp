@@ -29,6 +29,16 @@ TEST(Words, BothLanguagesFillInTheSameValues) {
     }
 }
 
+TEST(Words, NumbersAreWrittenInTheLanguage) {
+    Words words;
+    const auto lines = [&words](int number) {
+        return words.Counted(number, Word::OneLine, Word::ManyLines).toStdString();
+    };
+    EXPECT_EQ(lines(0) + ", " + lines(1) + ", " + lines(3708), "0 Zeilen, 1 Zeile, 3.708 Zeilen");
+    words.SetLanguage(2);
+    EXPECT_EQ(lines(0) + ", " + lines(1) + ", " + lines(3708), "0 lines, 1 line, 3,708 lines");
+}
+
 class MenusTest : public StudioTest {
   protected:
     // The captions in which one key may stand only once.
