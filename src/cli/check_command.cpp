@@ -61,6 +61,16 @@ class RunSettings {
         }
     }
 
+    // What the failure report of a value leaves out: where it stands.
+    void TellBadValue(int sprache) const {
+        if (!file_) return;
+        Tell(Say(sprache,
+                 "Das betrifft einen Wert in „[%1]“: Prüfungen haben 0 oder 1, AllgSprache hat 1 (deutsch) oder 2 "
+                 "(englisch).",
+                 "This is about a value in “[%1]”: checks have 0 or 1, AllgSprache has 1 (German) or 2 (English).",
+                 {Printable(file_->Path())}));
+    }
+
   private:
     std::optional<workspace::SettingsFile> file_;
     workspace::SettingsInMemory memory_;
@@ -109,6 +119,7 @@ class CheckCommand {
         if (arguments_.sprache != 0) session_.udtOptionen.AllgSprache = arguments_.sprache;
         session_.GetResourceString(101);  // settles a language that could not be read
         sprache_ = session_.udtOptionen.AllgSprache;
+        if (session_.FailureCount() > 0) settings_.TellBadValue(sprache_);
         settings_.Flush(sprache_);
         if (!arguments_.only.empty()) session_.udtOptionen.enabled.fill(false);
         for (const CheckId id : arguments_.only) session_.udtOptionen[id] = true;

@@ -230,6 +230,10 @@ TEST_F(Program, SettingsAreReadAndCompleted) {
     const std::string named = "check " + module + " --settings '" + (folder.path / "team.ini").string() + "'";
     EXPECT_NE(Zentlor(named).err.find("team.ini“ gab es nicht"), std::string::npos) << "the name may be mistyped";
     EXPECT_EQ(Zentlor(named).err, "");
+    WriteFile(folder.path / "team.ini", "[Brennhaus-Tools\\Zentlor]\nModLeer=ja\n");
+    const ProgramResult faulty = Zentlor(named);
+    EXPECT_EQ(faulty.status, 2);
+    EXPECT_NE(faulty.err.find("team.ini“: Prüfungen haben 0 oder 1"), std::string::npos) << faulty.err;
     const ProgramResult unreadable = Zentlor("check " + module + " --settings /dev/null/settings");
     EXPECT_EQ(unreadable.status, 1) << "settings that cannot be used stop nothing";
     EXPECT_NE(unreadable.err.find("/dev/null/settings"), std::string::npos) << unreadable.err;
