@@ -125,16 +125,6 @@ TEST(HostileDatabase, SurvivesRandomHeadsOfPages) {
     }
 }
 
-JetTableSpec StorageTable() {
-    return {"MSysAccessStorage",
-            {{"Id", kJetInt32, true, 4},
-             {"ParentId", kJetInt32, true, 4},
-             {"Type", kJetInt32, true, 4},
-             {"Name", kJetText, false, 510},
-             {"Lv", kJetOle, false, 0}},
-            {}};
-}
-
 /// A database whose table of storages is `rows` times the root, with `content`.
 std::string WriteStorageRows(std::size_t rows, const JetOptions& options, const std::string& content) {
     JetTableSpec table = StorageTable();

@@ -29,16 +29,6 @@ struct OpenedStorage {
     std::unique_ptr<Storage> root;
 };
 
-JetTableSpec StorageTable() {
-    return {"MSysAccessStorage",
-            {{"Id", kJetInt32, true, 4},
-             {"ParentId", kJetInt32, true, 4},
-             {"Type", kJetInt32, true, 4},
-             {"Name", kJetText, false, 510},
-             {"Lv", kJetOle, false, 0}},
-            {}};
-}
-
 void AddRow(JetTableSpec& table, int id, int parent, int type, TextView name, JetCell content = {}) {
     table.rows.push_back({JetNumber(id, 4), JetNumber(parent, 4), JetNumber(type, 4), JetTextValue(name, {}), content});
 }

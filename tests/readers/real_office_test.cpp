@@ -1,5 +1,5 @@
 // Real documents, in the folder that ZENTLOR_REAL_DATA names. What they hold was found out by a second, independent
-// program; the hash is FNV-1a (64 bits) over the UTF-8 of a module's code.
+// program.
 
 #include <gtest/gtest.h>
 
@@ -12,16 +12,13 @@
 #include "core/utilities/encoding.h"
 #include "readers/ovba_decompress.h"
 #include "readers/reader.h"
+#include "support/real_modules.h"
 
 namespace zentlor::readers {
 namespace {
 
-struct RealModule {
-    const char* name;
-    int type;
-    long lines;
-    std::uint64_t hash;
-};
+using test::ExpectModules;
+using test::RealModule;
 
 struct RealDocument {
     const char* path;
@@ -147,12 +144,6 @@ const RealDocument kDocuments[] = {
      }},
 };
 
-std::uint64_t Hash(const std::string& bytes) {
-    std::uint64_t hash = 0xcbf29ce484222325ull;
-    for (char c : bytes) hash = (hash ^ static_cast<std::uint8_t>(c)) * 0x100000001b3ull;
-    return hash;
-}
-
 class RealOffice : public ::testing::Test {
   protected:
     void SetUp() override {
@@ -175,15 +166,7 @@ TEST_F(RealOffice, GivesNamesTypesLinesAndText) {
         const Document document = ReadDocument(Path(expected.path), {});
         EXPECT_TRUE(document.problems.empty()) << expected.path << ": " << document.problems[0].english;
         EXPECT_FALSE(document.description.english.empty()) << expected.path;
-        ASSERT_EQ(document.modules.size(), expected.modules.size()) << expected.path;
-        for (std::size_t i = 0; i < expected.modules.size(); ++i) {
-            const SourceModule& module = document.modules[i];
-            const std::string where = std::string(expected.path) + ", " + expected.modules[i].name;
-            EXPECT_EQ(ToUtf8(module.name), expected.modules[i].name) << where;
-            EXPECT_EQ(static_cast<int>(module.type), expected.modules[i].type) << where;
-            EXPECT_EQ(std::count(module.code.begin(), module.code.end(), u'\n'), expected.modules[i].lines) << where;
-            EXPECT_EQ(Hash(ToUtf8(module.code)), expected.modules[i].hash) << where;
-        }
+        ExpectModules(document, expected.modules);
     }
 }
 

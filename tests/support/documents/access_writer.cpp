@@ -132,6 +132,16 @@ StorageTree WriteAccessTree(const TestProject& project, const std::vector<TestFo
     return tree;
 }
 
+JetTableSpec StorageTable() {
+    return {"MSysAccessStorage",
+            {{"Id", kJetInt32, true, 4},
+             {"ParentId", kJetInt32, true, 4},
+             {"Type", kJetInt32, true, 4},
+             {"Name", kJetText, false, 510},
+             {"Lv", kJetOle, false, 0}},
+            {}};
+}
+
 JetDatabase WriteAccessStorage(const StorageTree& tree, const JetOptions& options,
                                const std::vector<JetCatalogEntry>& objects) {
     StorageRows rows(options);

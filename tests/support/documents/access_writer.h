@@ -30,6 +30,9 @@ std::string WriteTypeInfo(const std::vector<TestControl>& controls);
 /// The storages of a database: `VBA`/`VBAProject` with the project, `Forms` and `Reports` with the controls.
 StorageTree WriteAccessTree(const TestProject& project, const std::vector<TestForm>& forms = {});
 
+/// The table of storages without rows, with the columns that are read.
+JetTableSpec StorageTable();
+
 /// Access 2002 and later: the storages as rows of MSysAccessStorage. `objects` are further rows of the catalog.
 JetDatabase WriteAccessStorage(const StorageTree& tree, const JetOptions& options,
                                const std::vector<JetCatalogEntry>& objects = {});
