@@ -69,7 +69,16 @@ checkIncludes() {
     report "<regex>, <format> and <ranges> stay out" < <(search '^#include <(regex|format|ranges)>' -- src)
 }
 
+# The glossary explains names that the code bears.
+checkGlossary() {
+    report "a name that src/ does not hold" < <(grep -oE '^\| [^|]+\|' docs/GLOSSARY.md | grep -oP '\x60\K[^\x60…]+' |
+        sort -u | while IFS= read -r name; do
+            git grep -qF --untracked -e "$name" -- src || echo "docs/GLOSSARY.md, $name"
+        done)
+}
+
 checkBytes
 checkLines
+checkGlossary
 checkIncludes
 ((faults == 0)) || exit 1
