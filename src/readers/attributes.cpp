@@ -76,8 +76,6 @@ void Remember(const Attribute& attribute, StrippedCode& result) {
     if (is(u"VB_Base")) result.base = Unquoted(attribute.value);
     if (is(u"VB_PredeclaredId")) result.predeclaredId = yes;
     if (is(u"VB_Exposed")) result.exposed = yes;
-    if (is(u"VB_GlobalNameSpace")) result.globalNameSpace = yes;
-    if (is(u"VB_Creatable")) result.creatable = yes;
 }
 
 // Gives out the physical lines of a text, without their ends.
@@ -159,7 +157,6 @@ StrippedCode StripAttributes(TextView text) {
         }
         inside = Continues(line);
         if (hiding) {
-            result.hasAttributes = true;
             if (result.fileLines.empty()) {
                 AddLine(line, result.header);
             } else {

@@ -28,15 +28,11 @@ struct StrippedCode {
     /// The `Attribute` lines between the lines of the code.
     std::vector<HiddenLine> innerAttributes;
     ExportHeader kind = ExportHeader::None;
-    /// Whether the text held `Attribute` lines.
-    bool hasAttributes = false;
     /// The attributes of the module: `VB_Name` and `VB_Base` without their quotation marks, empty where missing.
     Text name;
     Text base;
     bool predeclaredId = false;
     bool exposed = false;
-    bool globalNameSpace = false;
-    bool creatable = false;
 };
 
 /// Takes `text` apart. Its lines end in CR LF, LF or CR. An `Attribute` line is a logical line (a " _" at its end

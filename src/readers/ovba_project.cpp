@@ -25,10 +25,6 @@ constexpr std::uint64_t kMaximumProjectBytes = 2ull << 20;
 // The compiled form in front of a source may be several times its size.
 constexpr std::uint64_t kStreamToText = 8;
 
-std::string Mebibytes(std::uint64_t bytes) {
-    return std::to_string(bytes >> 20) + " MiB";
-}
-
 // Where a source begins when `dir` names a wrong place: a container whose first chunk starts with the literal
 // "Attribut". The last such place counts, since the cache lies in front.
 std::size_t FindSource(std::string_view stream) {
@@ -123,7 +119,7 @@ class ProjectReader {
                 "Grenze an.",
                 "The source in “[%1]” is longer than [%2], its beginning was read; --max-source-size raises the "
                 "limit.",
-                {path_, Mebibytes(limits_.sourceBytes)});
+                {path_, SizeText(limits_.sourceBytes)});
             return false;
         }
         if (!text.bytes.empty()) {
@@ -205,7 +201,7 @@ class ProjectReader {
                     "hebt die Grenze an.",
                     "Module “[%1]” in “[%2]” is longer than [%3], its beginning was read; --max-module-size raises "
                     "the limit.",
-                    {ToUtf8(module.name), path_, Mebibytes(limits_.moduleBytes)});
+                    {ToUtf8(module.name), path_, SizeText(limits_.moduleBytes)});
         }
     }
 

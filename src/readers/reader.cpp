@@ -42,8 +42,8 @@ class OpenFile {
         Fail(ReadFailure::NoPermission, "„[%1]“ darf nicht gelesen werden; die Zugriffsrechte prüfen.",
              "“[%1]” may not be read; check its permissions.", {path});
     }
-    Fail(ReadFailure::Damaged, "„[%1]“ kann nicht gelesen werden ([%2]); den Datenträger prüfen.",
-         "“[%1]” cannot be read ([%2]); check the medium.", {path, std::strerror(error)});
+    Fail(ReadFailure::Damaged, "„[%1]“ kann nicht gelesen werden ([%2]); den Pfad und den Datenträger prüfen.",
+         "“[%1]” cannot be read ([%2]); check the path and the medium.", {path, std::strerror(error)});
 }
 
 void RequireRegularFile(const std::string& path, const struct stat& status) {
@@ -55,9 +55,8 @@ void RequireRegularFile(const std::string& path, const struct stat& status) {
 
 void RequireSize(const std::string& path, std::uint64_t size, const Limits& limits) {
     if (size <= limits.fileBytes) return;
-    Fail(ReadFailure::Limit, "„[%1]“ ist größer als [%2] MiB; --max-file-size hebt die Grenze an.",
-         "“[%1]” is larger than [%2] MiB; --max-file-size raises the limit.",
-         {path, std::to_string(limits.fileBytes >> 20)});
+    Fail(ReadFailure::Limit, "„[%1]“ ist größer als [%2]; --max-file-size hebt die Grenze an.",
+         "“[%1]” is larger than [%2]; --max-file-size raises the limit.", {path, SizeText(limits.fileBytes)});
 }
 
 // Lets the kernel hand out the memory that `bytes` has reserved in one call. To be interrupted at the first touch of

@@ -26,6 +26,13 @@ Sentence MakeSentence(std::string_view german, std::string_view english, std::in
     return {Fill(german, values), Fill(english, values)};
 }
 
+std::string SizeText(std::uint64_t bytes) {
+    constexpr std::uint64_t kKiB = 1 << 10;
+    constexpr std::uint64_t kMiB = 1 << 20;
+    if (bytes == 0 || bytes % kKiB != 0) return std::to_string(bytes) + " B";
+    return bytes % kMiB == 0 ? std::to_string(bytes / kMiB) + " MiB" : std::to_string(bytes / kKiB) + " KiB";
+}
+
 void Fail(ReadFailure why, std::string_view german, std::string_view english,
           std::initializer_list<std::string> values) {
     throw ReadError(why, MakeSentence(german, english, values));

@@ -94,6 +94,7 @@ TEST_F(Program, StatusTellsHowItWent) {
         {"a path in the command's place", "examples/kunden", 2, "write `zentlor check` in front"},
         {"no command", "", 2, "the commands are check, "},
         {"a size below zero", "check . --max-file-size -1", 2, "--max-file-size: a size is not negative"},
+        {"a small limit", "check " + clean + " --isolated --max-file-size 100", 2, "größer als 100 B; --max-file-size"},
         {"a folder in the output's place", "check " + clean + " --isolated -o src", 2,
          "„src“ wurde nicht geschrieben: es ist"},
         {"no such language", "check . --language fr", 2, "fr"},
