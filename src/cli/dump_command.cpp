@@ -6,7 +6,6 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/commands.h"
-#include "cli/report.h"
 #include "cli/words.h"
 #include "core/language/messages.h"
 #include "core/utilities/encoding.h"
@@ -35,7 +34,7 @@ TextView RawCode(const workspace::OpenedProject& project, const VBComponent& com
 
 Json ControlsOf(const readers::Document& document, TextView component) {
     for (const readers::FormLayout& layout : document.layouts) {
-        if ((layout.report ? u"Report_" : u"Form_") + layout.name != component) continue;
+        if (layout.ModuleName() != component) continue;
         Json controls = Json::array();
         for (const readers::FormControl& control : layout.controls) {
             controls.push_back({{"name", ToUtf8(control.name)}, {"type", control.type}});

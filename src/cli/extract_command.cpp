@@ -4,7 +4,6 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -51,12 +50,7 @@ class Extractor {
     // A name that was not given before in this folder, whatever the case of its letters.
     std::string Unused(const std::string& stem, const std::string& ending) {
         std::string name = stem + ending;
-        const auto folded = [](const std::string& text) {
-            Text key = FromUtf8(text);
-            std::transform(key.begin(), key.end(), key.begin(), FoldCase);
-            return key;
-        };
-        for (int n = 2; !used_.insert(folded(name)).second; ++n) name = fmt::format("{}_{}{}", stem, n, ending);
+        for (int n = 2; !used_.insert(Folded(name)).second; ++n) name = fmt::format("{}_{}{}", stem, n, ending);
         return name;
     }
 

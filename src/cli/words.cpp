@@ -22,12 +22,6 @@ bool MustBeEscaped(char16_t c) {
     return control || direction || c == 0x2028 || c == 0x2029 || c == 0xFEFF;
 }
 
-Text Folded(const std::string& utf8) {
-    Text text = FromUtf8(utf8);
-    std::transform(text.begin(), text.end(), text.begin(), FoldCase);
-    return text;
-}
-
 // The least number of letters to put in, leave out or replace that makes one word of the other.
 std::size_t Distance(TextView word, TextView other) {
     std::vector<std::size_t> row(other.size() + 1);
@@ -78,6 +72,12 @@ std::string Printable(const std::string& utf8) {
 
 void Tell(const std::string& line) {
     std::fputs((line + "\n").c_str(), stderr);
+}
+
+Text Folded(const std::string& utf8) {
+    Text text = FromUtf8(utf8);
+    std::transform(text.begin(), text.end(), text.begin(), FoldCase);
+    return text;
 }
 
 std::string NearestWord(const std::string& word, const std::vector<std::string>& known) {

@@ -34,6 +34,9 @@ std::string Printable(const std::string& utf8);
 /// Writes a line on standard error. One that cannot be written is lost; the exit code tells all the same.
 void Tell(const std::string& line);
 
+/// `utf8` without the difference of capitals and small letters, for comparisons.
+Text Folded(const std::string& utf8);
+
 /// The known word that is nearest to `word` by the letters that differ, whatever their case; empty if more than half of
 /// them do.
 std::string NearestWord(const std::string& word, const std::vector<std::string>& known);

@@ -48,6 +48,9 @@ struct FormLayout {
     Text name;
     bool report = false;
     std::vector<FormControl> controls;
+
+    /// What the editor calls its module.
+    Text ModuleName() const { return (report ? u"Report_" : u"Form_") + name; }
 };
 
 /// A sentence for the user, complete with its full stop, in both languages of the program. UTF-8.

@@ -1,16 +1,11 @@
 #include "studio/add_in_library.h"
 
+#include "core/host/add_in_manager.h"
 #include "studio/about_dialog.h"
 #include "studio/options_dialog.h"
 #include "studio/qtext.h"
 
 namespace zentlor::studio {
-
-namespace {
-
-constexpr TextView kPaneClass = u"Zentlor.docAddIn";
-
-}  // namespace
 
 // Members stand in the order in which they need each other.
 class AddInLibrary::Component : public PaneDialogs, public EventPump {
@@ -67,8 +62,9 @@ AddInLibrary::~AddInLibrary() = default;
 
 void AddInLibrary::AddinInstance_OnConnection(EditorUi& application, const AddInInstance& addInInst) {
     component_ = std::make_unique<Component>(environment_);
-    environment_.editor.RegisterClass(
-        kPaneClass, [this](std::unique_ptr<PaneObject>& docObj) { return component_->CreatePane(docObj); });
+    environment_.editor.RegisterClass(kRegistration.paneClass, [this](std::unique_ptr<PaneObject>& docObj) {
+        return component_->CreatePane(docObj);
+    });
     QObject::connect(&component_->pane, &PaneWidget::WordsWritten, [this] { wordsWritten(); });
     QObject::connect(&component_->pane, &PaneWidget::RowsPublished, [this] { rowsPublished(); });
     QObject::connect(&component_->pane, &PaneWidget::RunBegins, [this] { runBegins(); });

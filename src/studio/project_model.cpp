@@ -132,8 +132,7 @@ QString ProjectModel::ToolTip(const Node& node) const {
     QString text = QString::fromStdString(opened.OriginOf(*node.component).path) + u'\n' +
                    words_.Counted(node.component->CodeModule().CountOfLines(), Word::OneLine, Word::ManyLines);
     for (const readers::FormLayout& layout : opened.document.layouts) {
-        const Text name = (layout.report ? u"Report_" : u"Form_") + layout.name;
-        if (name != node.component->Name() || layout.controls.empty()) continue;
+        if (layout.ModuleName() != node.component->Name() || layout.controls.empty()) continue;
         QStringList names;
         for (const readers::FormControl& control : layout.controls) names << ToQString(control.name);
         const qsizetype more = names.size() - kNamedControls;

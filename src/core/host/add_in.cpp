@@ -3,6 +3,7 @@
 // shows the pane, and one of the entries starts a run.
 
 #include "core/host/add_in.h"
+#include "core/host/add_in_manager.h"
 
 namespace zentlor {
 
@@ -15,7 +16,6 @@ constexpr TextView kCaption = u"&Zentlor";
 constexpr int kFaceId = 3056;
 constexpr int kAnalyseCaption = 223;
 
-constexpr TextView kPaneClass = u"Zentlor.docAddIn";
 constexpr TextView kWindowCaption = u"Zentlor";
 constexpr TextView kWindowGuid = u"{C67CE673-F07B-41e6-9D73-A2DC12E791CE}";
 
@@ -46,7 +46,8 @@ std::shared_ptr<CommandBarControl> mdl_Zentlor::AddToCommandBar(TextView strComm
 
 void mdl_Zentlor::LoadAddIn() {
     Frame(session_, {kModule, u"LoadAddIn"}, [&] {
-        wndAddIn = objVBE->CreateToolWindow(*objAddInInst, kPaneClass, kWindowCaption, kWindowGuid, docPane);
+        wndAddIn =
+            objVBE->CreateToolWindow(*objAddInInst, kRegistration.paneClass, kWindowCaption, kWindowGuid, docPane);
     });
 }
 
