@@ -151,23 +151,27 @@ class JsonReport : public Report {
 // one list.
 class RecordReport : public Report {
   public:
-    explicit RecordReport(bool csv) : csv_(csv) {}
+    RecordReport(RecordForm form, PieceWriter writePiece) : form_(form), pieces_(std::move(writePiece)) {}
 
     void AddProject(Session& session, const workspace::OpenedProject&) override {
-        const auto& emitted = session.lvwErgebnis.Emitted();
-        hints_.insert(hints_.end(), emitted.begin(), emitted.end());
+        for (const Hint& hint : session.lvwErgebnis.Emitted()) hints_.Add(hint);
     }
     void AddStatus(const workspace::OpenedProject&, const std::string&, const std::string&) override {}
 
     std::string Finish(Session& session, const workspace::Workspace&) override {
-        session.lvwErgebnis.Clear();
-        for (Hint& hint : hints_) session.lvwErgebnis.Add(std::move(hint));
-        return ToWindows1252(csv_ ? CsvRecords(session) : TxtRecords(session));
+        session.lvwErgebnis = std::move(hints_);
+        pieces_.MakeRoom(session.lvwErgebnis.Count());
+        ForEachRecord(session, form_, [this](TextView record) {
+            pieces_.text += ToWindows1252(record);
+            pieces_.EndLine();
+        });
+        return std::move(pieces_.text);
     }
 
   private:
-    bool csv_;
-    std::vector<Hint> hints_;
+    RecordForm form_;
+    Pieces pieces_;
+    ResultList hints_;
 };
 
 }  // namespace
@@ -175,7 +179,7 @@ class RecordReport : public Report {
 std::unique_ptr<Report> MakeReport(const std::string& format, bool colour, PieceWriter writePiece) {
     if (format == "jsonl") return std::make_unique<JsonReport>(std::move(writePiece));
     if (format == "text") return std::make_unique<TextReport>(colour, std::move(writePiece));
-    return std::make_unique<RecordReport>(format == "csv");
+    return std::make_unique<RecordReport>(format == "csv" ? RecordForm::Csv : RecordForm::Txt, std::move(writePiece));
 }
 
 void AppendJsonString(TextView text, std::string& out) {

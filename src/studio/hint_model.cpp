@@ -33,7 +33,7 @@ void HintModel::Reorder() {
     if (shown_ == results_->Order()) return;
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
     std::vector<int> rowOfHint(shown_.size());
-    const std::vector<std::size_t>& order = results_->Order();
+    const std::vector<std::uint32_t>& order = results_->Order();
     for (std::size_t row = 0; row < order.size(); ++row) rowOfHint[order[row]] = static_cast<int>(row);
     QModelIndexList moved;
     const QModelIndexList kept = persistentIndexList();

@@ -35,7 +35,7 @@ class HintModel : public QAbstractTableModel {
     void Reorder();
 
     const ResultList* results_ = nullptr;
-    std::vector<std::size_t> shown_;  ///< for each row of the view its hint in order of emission
+    std::vector<std::uint32_t> shown_;  ///< for each row of the view its hint in order of emission
     std::array<QString, kHintColumns> headers_;
     QString sortTip_;
 };

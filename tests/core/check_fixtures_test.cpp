@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -27,7 +26,7 @@ std::string ReadFile(const fs::path& path) {
     return text.str();
 }
 
-std::deque<Hint> RunOnly(CheckId check, const test::Fixture& fixture) {
+HintSequence RunOnly(CheckId check, const test::Fixture& fixture) {
     test::FakeHost host;
     host.requireDeclaration = fixture.requireDeclaration;
     for (const auto& c : fixture.components) host.project->Add(c.name, c.type, c.code);

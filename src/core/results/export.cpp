@@ -45,11 +45,14 @@ TextView EndingOf(TextView path) {
     return path.substr(path.rfind(u'.') + 1);
 }
 
-Text RecordsFor(Session& session, TextView path) {
+std::string RecordsFor(Session& session, TextView path) {
     const TextView ending = EndingOf(path);
-    if (EqualIgnoringCase(ending, u"TXT")) return TxtRecords(session);
-    if (EqualIgnoringCase(ending, u"CSV")) return CsvRecords(session);
-    return {};
+    const bool isCsv = EqualIgnoringCase(ending, u"CSV");
+    std::string bytes;
+    if (!isCsv && !EqualIgnoringCase(ending, u"TXT")) return bytes;
+    ForEachRecord(session, isCsv ? RecordForm::Csv : RecordForm::Txt,
+                  [&](TextView record) { bytes += ToWindows1252(record); });
+    return bytes;
 }
 
 }  // namespace
@@ -63,7 +66,7 @@ void ExportErgebnisse(Session& session, FileDialogPlatform& dialogs, FileOutput&
         }
         const Text path = AskForFile(session, dialogs, ProjectFileOf(session.ActiveVBProject(), files));
         if (path.empty()) return;
-        files.WriteFile(path, ToWindows1252(RecordsFor(session, path)));
+        files.WriteFile(path, RecordsFor(session, path));
     });
 }
 

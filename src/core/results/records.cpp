@@ -16,34 +16,37 @@ struct ColumnWords {
     Text modul, prozedur, hinweis, zeile;
 };
 
-}  // namespace
-
-Text TxtRecords(Session& session) {
-    const ColumnWords words(session);
-    Text text;
-    for (std::size_t row = 0; row < session.lvwErgebnis.Count(); ++row) {
-        const Hint& hint = session.lvwErgebnis.Row(row);
-        text.append(words.modul).append(u": ").append(hint.strNameVBC).append(kLineEnd);
-        text.append(u"    ").append(words.prozedur).append(u": ").append(hint.strProzedur).append(kLineEnd);
-        text.append(u"        ").append(words.hinweis).append(u": ").append(hint.strHinweis);
-        text.append(u" (").append(words.zeile).append(u" ").append(ToText(hint.lngZeile)).append(u")");
-        text.append(kLineEnd).append(kLineEnd);
-    }
-    return text;
+void AppendTxt(const ColumnWords& words, const Hint& hint, Text& text) {
+    text.append(words.modul).append(u": ").append(hint.strNameVBC).append(kLineEnd);
+    text.append(u"    ").append(words.prozedur).append(u": ").append(hint.strProzedur).append(kLineEnd);
+    text.append(u"        ").append(words.hinweis).append(u": ").append(hint.strHinweis);
+    text.append(u" (").append(words.zeile).append(u" ").append(ToText(hint.lngZeile)).append(u")");
+    text.append(kLineEnd).append(kLineEnd);
 }
 
-Text CsvRecords(Session& session) {
+void AppendCsv(TextView a, TextView b, TextView c, TextView d, Text& text) {
+    text.append(a).append(u";").append(b).append(u";").append(c).append(u";").append(d).append(kLineEnd);
+}
+
+}  // namespace
+
+void ForEachRecord(Session& session, RecordForm form, const std::function<void(TextView record)>& take) {
     const ColumnWords words(session);
     Text text;
-    const auto appendRow = [&text](TextView a, TextView b, TextView c, TextView d) {
-        text.append(a).append(u";").append(b).append(u";").append(c).append(u";").append(d).append(kLineEnd);
-    };
-    appendRow(words.modul, words.prozedur, words.hinweis, words.zeile);
+    if (form == RecordForm::Csv) {
+        AppendCsv(words.modul, words.prozedur, words.hinweis, words.zeile, text);
+        take(text);
+    }
     for (std::size_t row = 0; row < session.lvwErgebnis.Count(); ++row) {
         const Hint& hint = session.lvwErgebnis.Row(row);
-        appendRow(hint.strNameVBC, hint.strProzedur, hint.strHinweis, ToText(hint.lngZeile));
+        text.clear();
+        if (form == RecordForm::Csv) {
+            AppendCsv(hint.strNameVBC, hint.strProzedur, hint.strHinweis, ToText(hint.lngZeile), text);
+        } else {
+            AppendTxt(words, hint, text);
+        }
+        take(text);
     }
-    return text;
 }
 
 }  // namespace zentlor

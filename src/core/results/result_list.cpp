@@ -65,18 +65,31 @@ Text CellText(const Hint& hint, int column) {
     }
 }
 
-void ResultList::Add(Hint hint) {
-    if (!hints_.empty()) {
-        const Hint& last = hints_.back();
-        hint.strNameVBC.ShareWith(last.strNameVBC);
-        hint.strProzedur.ShareWith(last.strProzedur);
-        hint.strHinweis.ShareWith(last.strHinweis);
+const Hint& HintSequence::operator[](std::size_t index) const {
+    const auto behind = [](std::size_t place, const Run& run) { return place < run.end; };
+    return std::upper_bound(runs_.begin(), runs_.end(), index, behind)->hint;
+}
+
+void HintSequence::Add(Hint hint) {
+    if (!runs_.empty()) {
+        Run& last = runs_.back();
+        hint.strNameVBC.ShareWith(last.hint.strNameVBC);
+        hint.strProzedur.ShareWith(last.hint.strProzedur);
+        hint.strHinweis.ShareWith(last.hint.strHinweis);
+        if (hint == last.hint) {
+            ++last.end;
+            return;
+        }
     }
-    hints_.push_back(std::move(hint));
+    runs_.push_back({std::move(hint), size() + 1});
+}
+
+void ResultList::Add(Hint hint) {
+    hints_.Add(std::move(hint));
 }
 
 void ResultList::Clear() {
-    hints_.clear();
+    hints_.Clear();
     order_.clear();
 }
 
@@ -99,16 +112,16 @@ bool ResultList::InFront(std::size_t a, std::size_t b) const {
 // never sorted from the beginning. Equal rows keep the order of emission.
 void ResultList::Sort(std::size_t sorted) const {
     const auto middle = order_.begin() + static_cast<std::ptrdiff_t>(sorted);
-    const auto inFront = [this](std::size_t a, std::size_t b) { return InFront(a, b); };
+    const auto inFront = [this](std::uint32_t a, std::uint32_t b) { return InFront(a, b); };
     std::stable_sort(middle, order_.end(), inFront);
     std::inplace_merge(order_.begin(), middle, order_.end(), inFront);
 }
 
-const std::vector<std::size_t>& ResultList::Order() const {
+const std::vector<std::uint32_t>& ResultList::Order() const {
     const std::size_t sorted = order_.size();
     if (sorted == hints_.size()) return order_;
     order_.resize(hints_.size());
-    std::iota(order_.begin() + static_cast<std::ptrdiff_t>(sorted), order_.end(), sorted);
+    std::iota(order_.begin() + static_cast<std::ptrdiff_t>(sorted), order_.end(), static_cast<std::uint32_t>(sorted));
     Sort(sorted);
     return order_;
 }

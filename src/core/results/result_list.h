@@ -3,7 +3,9 @@
 // The result list: where a hint ends up. Its rows are the only store of hints; jump, sort and export read them back.
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
+#include <iterator>
 #include <vector>
 
 #include "core/checks/catalogue.h"
@@ -20,6 +22,63 @@ struct Hint {
     CheckId check{};
     /// Position of the component in the project, counted from 0; -1 for a hint about the editor. No row shows it.
     int component = -1;
+
+    friend bool operator==(const Hint&, const Hint&) = default;
+};
+
+/// Hints in order of emission. Equal ones in a row take the memory of one: a line that holds the same thing a hundred
+/// thousand times gives so many hints.
+class HintSequence {
+  public:
+    std::size_t size() const { return runs_.empty() ? 0 : runs_.back().end; }
+    bool empty() const { return runs_.empty(); }
+    /// Takes time in the logarithm of the hints that differ; `index` is below size().
+    const Hint& operator[](std::size_t index) const;
+    const Hint& back() const { return runs_.back().hint; }
+
+    void Add(Hint hint);
+    void Clear() { runs_.clear(); }
+
+  private:
+    struct Run {
+        Hint hint;
+        std::size_t end = 0;  ///< the number of the hint behind the run
+    };
+
+  public:
+    class Iterator {
+      public:
+        using difference_type = std::ptrdiff_t;
+        using value_type = Hint;
+        using pointer = const Hint*;
+        using reference = const Hint&;
+        using iterator_category = std::forward_iterator_tag;
+
+        Iterator() = default;
+        Iterator(std::deque<Run>::const_iterator run, std::size_t index) : run_(run), index_(index) {}
+        const Hint& operator*() const { return run_->hint; }
+        const Hint* operator->() const { return &run_->hint; }
+        Iterator& operator++() {
+            if (++index_ == run_->end) ++run_;
+            return *this;
+        }
+        Iterator operator++(int) {
+            Iterator before = *this;
+            ++*this;
+            return before;
+        }
+        friend bool operator==(const Iterator& a, const Iterator& b) { return a.index_ == b.index_; }
+
+      private:
+        std::deque<Run>::const_iterator run_;
+        std::size_t index_ = 0;
+    };
+
+    Iterator begin() const { return {runs_.begin(), 0}; }
+    Iterator end() const { return {runs_.end(), size()}; }
+
+  private:
+    std::deque<Run> runs_;  // grows without a second copy of a million hints
 };
 
 /// Sort keys as the list's columns have them: 0 module, 1 procedure, 2 hint, 3 the line as plain text (no header leads
@@ -38,11 +97,11 @@ class ResultList {
 
     std::size_t Count() const { return hints_.size(); }
     /// Hints in order of emission.
-    const std::deque<Hint>& Emitted() const { return hints_; }
+    const HintSequence& Emitted() const { return hints_; }
     /// The hint in row `row` of the list, counted from 0. The rows are put in order when they are asked for.
     const Hint& Row(std::size_t row) const { return hints_[Order()[row]]; }
     /// For each row the number of its hint in order of emission.
-    const std::vector<std::size_t>& Order() const;
+    const std::vector<std::uint32_t>& Order() const;
 
     int SortKey() const { return sortKey_; }
     bool Ascending() const { return ascending_; }
@@ -54,10 +113,10 @@ class ResultList {
     void Sort(std::size_t sorted) const;
     bool InFront(std::size_t a, std::size_t b) const;
 
-    std::deque<Hint> hints_;  // grows without a second copy of a million hints
+    HintSequence hints_;
     int sortKey_ = kSortModule;
     bool ascending_ = true;
-    mutable std::vector<std::size_t> order_;
+    mutable std::vector<std::uint32_t> order_;
 };
 
 /// The text of column `column` (1 to 5) of a row; the fifth is the hidden sort text.
