@@ -79,6 +79,7 @@ workspace::Workspace OpenFor(const Arguments& arguments, bool keepRawCode, int s
     options.limits = arguments.limits;
     options.projectPerFolder = arguments.projectPerFolder;
     options.keepRawCode = keepRawCode;
+    options.compile = arguments.verb != Verb::Info;
     workspace::Workspace opened = workspace::Open(arguments.paths, options);
     PrintTroubles(opened, sprache);
     return opened;

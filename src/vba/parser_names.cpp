@@ -1,11 +1,11 @@
-// Open addressing over a power of two. An entry counts only if it bears the table's present generation.
+// Open addressing over a power of two; it is half full at most.
 
 #include "vba/parser_names.h"
 
 namespace zentlor::vba {
 namespace {
 
-constexpr std::size_t kFirstSize = 64;
+constexpr std::size_t kFirstSlots = 64;
 
 // FNV-1a over the characters in lower case.
 std::uint32_t HashOf(TextView name) {
@@ -16,42 +16,47 @@ std::uint32_t HashOf(TextView name) {
 
 }  // namespace
 
-ScopeNames::ScopeNames(TextView text) : text_(text), entries_(kFirstSize) {}
+ScopeNames::ScopeNames(TextView text) : text_(text), slots_(kFirstSlots) {}
 
-ScopeNames::Entry* ScopeNames::Slot(TextView name, std::uint32_t hash) {
-    const std::size_t mask = entries_.size() - 1;
+// The slot of the name, or the free one where it belongs.
+ScopeNames::Slot& ScopeNames::SlotOf(TextView name, std::uint32_t hash) {
+    const std::size_t mask = slots_.size() - 1;
     for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
-        Entry& entry = entries_[i];
-        if (!IsUsed(entry)) return &entry;
-        if (entry.hash == hash && EqualIgnoringCase(entry.name, name)) return &entry;
+        Slot& slot = slots_[i];
+        if (slot.generation != generation_) return slot;
+        const Entry& entry = entries_[slot.entry];
+        if (entry.hash == hash && EqualIgnoringCase(NameOf(*entry.token, text_), name)) return slot;
     }
 }
 
 ScopeNames::Entry* ScopeNames::Find(TextView name) {
-    Entry* entry = Slot(name, HashOf(name));
-    return IsUsed(*entry) ? entry : nullptr;
+    const Slot& slot = SlotOf(name, HashOf(name));
+    return slot.generation == generation_ ? &entries_[slot.entry] : nullptr;
 }
 
 ScopeNames::Entry* ScopeNames::Enter(const Token& token, std::uint32_t kinds) {
     const TextView name = NameOf(token, text_);
     const std::uint32_t hash = HashOf(name);
-    Entry* entry = Slot(name, hash);
-    if (IsUsed(*entry)) return entry;
-    *entry = {name, &token, kinds, hash, generation_};
-    if (++count_ * 2 > entries_.size()) Grow();
+    Slot& slot = SlotOf(name, hash);
+    if (slot.generation == generation_) return &entries_[slot.entry];
+    slot = {static_cast<std::uint32_t>(entries_.size()), generation_};
+    entries_.push_back({&token, kinds, hash});
+    if (2 * entries_.size() > slots_.size()) Grow();
     return nullptr;
 }
 
 void ScopeNames::Clear() {
     ++generation_;
-    count_ = 0;
+    entries_.clear();
 }
 
 void ScopeNames::Grow() {
-    std::vector<Entry> old(entries_.size() * 2);
-    old.swap(entries_);
-    for (const Entry& entry : old) {
-        if (IsUsed(entry)) *Slot(entry.name, entry.hash) = entry;
+    slots_.assign(2 * slots_.size(), {});
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t entry = 0; entry < entries_.size(); ++entry) {
+        std::size_t i = entries_[entry].hash & mask;
+        while (slots_[i].generation == generation_) i = (i + 1) & mask;
+        slots_[i] = {static_cast<std::uint32_t>(entry), generation_};
     }
 }
 

@@ -14,29 +14,32 @@ namespace zentlor::vba {
 class ScopeNames {
   public:
     struct Entry {
-        TextView name;
         const Token* token = nullptr;
         std::uint32_t kinds = 0;  ///< The caller's bits.
         std::uint32_t hash = 0;
-        std::uint32_t generation = 0;
     };
 
     explicit ScopeNames(TextView text);
 
-    /// The entry of that name, or null.
+    /// The entry of that name, or null. Valid until the next name is entered.
     Entry* Find(TextView name);
     /// Enters the name of `token`. If it is there already nothing is entered, and that entry is the answer; else null.
     Entry* Enter(const Token& token, std::uint32_t kinds = 0);
     void Clear();
 
   private:
-    Entry* Slot(TextView name, std::uint32_t hash);
-    bool IsUsed(const Entry& entry) const { return entry.generation == generation_; }
+    // Holds an entry if it bears the table's present generation.
+    struct Slot {
+        std::uint32_t entry = 0;
+        std::uint32_t generation = 0;
+    };
+
+    Slot& SlotOf(TextView name, std::uint32_t hash);
     void Grow();
 
     TextView text_;
     std::vector<Entry> entries_;
-    std::size_t count_ = 0;
+    std::vector<Slot> slots_;
     std::uint32_t generation_ = 1;
 };
 

@@ -47,13 +47,13 @@ std::uint64_t HashNarrow(TextView name, std::uint64_t& wide) {
     return Mix(hash, part | kCaseBits);
 }
 
-std::uint64_t HashName(TextView name) {
+std::uint32_t HashName(TextView name) {
     std::uint64_t wide = 0;
     const std::uint64_t hash = HashNarrow(name, wide);
-    if (wide == 0) return hash;
+    if (wide == 0) return static_cast<std::uint32_t>(hash);
     Text folded(name);
     std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
-    return HashNarrow(folded, wide);
+    return static_cast<std::uint32_t>(HashNarrow(folded, wide));
 }
 
 }  // namespace
@@ -61,11 +61,11 @@ std::uint64_t HashName(TextView name) {
 SpellingTable::SpellingTable() : slots_(kFirstSlots) {}
 
 std::uint32_t SpellingTable::Add(TextView name, NameRank rank) {
-    const std::uint64_t hash = HashName(name);
+    const std::uint32_t hash = HashName(name);
     const std::size_t slot = FindSlot(name, hash);
     if (slots_[slot] == 0) {
         const TextView kept = spellings_.Keep(name, FoldWidth);
-        entries_.push_back({hash, kept, rank, kept != name});
+        entries_.push_back({kept, hash, rank, kept != name});
         slots_[slot] = static_cast<std::uint32_t>(entries_.size());
         if (entries_.size() * 2 > slots_.size()) Grow();
         return static_cast<std::uint32_t>(entries_.size() - 1);
@@ -90,7 +90,7 @@ bool SpellingTable::Holds(TextView name) const {
 }
 
 // The slot of the name, or the free one where it belongs.
-std::size_t SpellingTable::FindSlot(TextView name, std::uint64_t hash) const {
+std::size_t SpellingTable::FindSlot(TextView name, std::uint32_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = hash & mask;
     for (; slots_[slot] != 0; slot = (slot + 1) & mask) {

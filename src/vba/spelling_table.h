@@ -34,13 +34,13 @@ class SpellingTable {
 
   private:
     struct Entry {
-        std::uint64_t hash;
         TextView spelling;
+        std::uint32_t hash;
         NameRank rank;
         bool varies;
     };
 
-    std::size_t FindSlot(TextView name, std::uint64_t hash) const;
+    std::size_t FindSlot(TextView name, std::uint32_t hash) const;
     void Grow();
 
     std::vector<Entry> entries_;

@@ -485,7 +485,7 @@ class Scanner {
 void Tokenizer::Read(TextView text, std::span<const WordPlace> words, Tokens& tokens) {
     tokens.clear();
     // Growing would hold the tokens of a large module twice; what is reserved and never written costs nothing.
-    tokens.reserve(text.size() / 2 + 8);
+    tokens.reserve(text.size() + 2);
     Scanner(text, words, meanings_, tokens).Run();
 }
 

@@ -152,7 +152,13 @@ class Opener {
     void Add(readers::Document&& document, bool isDocument) {
         OpenedProject opened;
         opened.isDocument = isDocument;
-        CompiledModules compiled = Compile(document.modules, options_.keepRawCode, options_.times);
+        CompiledModules compiled;
+        if (options_.compile) {
+            compiled = Compile(document.modules, options_.keepRawCode, options_.times);
+        } else {
+            compiled.rawCode.resize(document.modules.size());
+            compiled.wordPlaces.resize(document.modules.size());
+        }
         opened.errors = std::move(compiled.errors);
         // A project of loose modules has no file: it is known by its folder, whose separator tells the difference.
         Text fileName = FromUtf8(AbsolutePath(document.path));

@@ -85,6 +85,9 @@ struct OpenOptions {
     bool projectPerFolder = false;
     /// Keep the lines as they were read, beside the canonical ones.
     bool keepRawCode = false;
+    /// Bring the code into the editor's form, check whether it compiles, and read its words. Without that the projects
+    /// tell what they hold, but nothing can be searched in them.
+    bool compile = true;
     /// Where to add up the stages' times, or nullptr.
     StageTimes* times = nullptr;
 };

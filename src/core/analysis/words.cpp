@@ -147,7 +147,7 @@ inline std::size_t WordTable::HashOf(Key key, TextView word) {
 // No character of a word is 0: shorter words of different length differ in their keys.
 inline bool WordTable::Holds(const Slot& slot, Key key, TextView word) const {
     if (slot.key.low != key.low || slot.key.high != key.high) return false;
-    return word.size() < kPacked || IsSame(longWords_[slot.number], word);
+    return word.size() < kPacked || IsSame(longWords_[slot.longWord], word);
 }
 
 // The slot of the word, or the free one where it belongs.
@@ -164,10 +164,10 @@ inline std::uint32_t WordTable::NumberOf(Key key, TextView word) {
 }
 
 std::uint32_t WordTable::Enter(Slot& slot, Key key, TextView word) {
-    const std::uint32_t number = Size();
-    slot = {key, number};
-    longWords_.push_back(word.size() < kPacked ? TextView() : store_.Keep(word));
-    if (2 * longWords_.size() > slots_.size()) Grow();
+    const std::uint32_t number = size_++;
+    slot = {key, number, static_cast<std::uint32_t>(longWords_.size())};
+    if (word.size() >= kPacked) longWords_.push_back(store_.Keep(word));
+    if (2 * std::size_t{size_} > slots_.size()) Grow();
     return number;
 }
 
@@ -177,7 +177,8 @@ void WordTable::Grow() {
     const std::size_t mask = slots_.size() - 1;
     for (const Slot& slot : old) {
         if (slot.number == kNoWord) continue;
-        std::size_t i = HashOf(slot.key, longWords_[slot.number]) & mask;
+        const bool isLong = slot.key.high >> 56 != 0;  // the last of kPacked characters is there
+        std::size_t i = HashOf(slot.key, isLong ? longWords_[slot.longWord] : TextView()) & mask;
         while (slots_[i].number != kNoWord) i = (i + 1) & mask;
         slots_[i] = slot;
     }

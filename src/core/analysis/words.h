@@ -41,7 +41,7 @@ class WordTable {
     WordTable() : slots_(1024) {}
 
     /// How many different words there are.
-    std::uint32_t Size() const { return static_cast<std::uint32_t>(longWords_.size()); }
+    std::uint32_t Size() const { return size_; }
 
     /// The number of a word, or `kNoWord`.
     std::uint32_t Find(TextView word) const;
@@ -61,6 +61,7 @@ class WordTable {
     struct Slot {
         Key key;
         std::uint32_t number = kNoWord;
+        std::uint32_t longWord = 0;  ///< the place in longWords_ if the word has kPacked characters or more
     };
 
     static Key KeyOf(TextView word);
@@ -72,8 +73,9 @@ class WordTable {
     std::uint32_t Enter(Slot& slot, Key key, TextView word);
     void Grow();
 
-    std::vector<Slot> slots_;          // open addressing, a power of two
-    std::vector<TextView> longWords_;  // by number: the whole word if it has more than kPacked characters
+    std::vector<Slot> slots_;  // open addressing, a power of two
+    std::vector<TextView> longWords_;
+    std::uint32_t size_ = 0;
     TextStore store_;
 };
 
