@@ -56,7 +56,8 @@ std::vector<std::vector<Stretch>> ColourStretches(TextView code) {
         }
         if (token.Is(TokenKind::EndOfLine) || token.Is(TokenKind::Continuation)) {
             lineStart = token.End();
-            lines.emplace_back();
+            const bool endsEmptyLines = token.Is(TokenKind::EndOfLine) && token.length > 1;
+            lines.resize(lines.size() + (endsEmptyLines ? token.length : 1));
         }
     }
     return lines;

@@ -1,8 +1,8 @@
 #pragma once
 
 // What the tokenizer makes of a module's text: one flat run of small tokens in the order of the text. Blanks and tabs
-// belong to no token; every other character belongs to exactly one. Each physical line's end lies in one `EndOfLine` or
-// one `Continuation`, so the line of a token is 1 + the number of these two in front of it.
+// belong to no token; every other character belongs to exactly one. Each physical line's end lies in one `EndOfLine`,
+// to which the empty lines behind it belong, or in one `Continuation`.
 
 #include <cstdint>
 #include <vector>
@@ -15,7 +15,7 @@ namespace zentlor::vba {
 
 enum class TokenKind : std::uint8_t {
     EndOfText,     ///< The last token of every run, and the only one of its kind; length 0.
-    EndOfLine,     ///< The line feed; length 0 where the text's last line has none.
+    EndOfLine,     ///< The line feed and those directly behind it; length 0 where the text's last line has none.
     Continuation,  ///< "_" at a line's end, the blanks behind it and the line feed; in code and in comments.
     Name,          ///< A word that may be a name. `keyword` says which keyword it is where its place makes it one.
     Keyword,       ///< A word that is never a declared name, unless it is a member behind "." or "!" (then a `Name`).

@@ -145,9 +145,7 @@ class Scanner {
                 ++at_;
                 return;
             case Start::LineEnd:
-                Add(TokenKind::EndOfLine, 1);
-                at_ = SkipSpaces(text_, at_);
-                return;
+                return ScanLineEnds();
             case Start::Word:
                 return ScanWord();
             case Start::Number:
@@ -171,6 +169,13 @@ class Scanner {
             case Start::Single:
                 return AddOperator(entry.single, 1);
         }
+    }
+
+    void ScanLineEnds() {
+        std::size_t end = at_ + 1;
+        while (end < text_.size() && text_[end] == u'\n') ++end;
+        Add(TokenKind::EndOfLine, end - at_);
+        at_ = SkipSpaces(text_, at_);
     }
 
     void ScanWord() {

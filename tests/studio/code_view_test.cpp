@@ -37,6 +37,7 @@ TEST(Highlighter, ColoursByTheTokensOfTheWholeModule) {
         Row{"a comment that goes on in the next line", u"' eins _\nDim zwei\nDim x\n", 2, "c[Dim zwei]"},
         Row{"and ends there", u"' eins _\nDim zwei\nDim x\n", 3, "k[Dim]"},
         Row{"a statement that goes on", u"Dim a, _\n    b As Byte\n", 2, "k[As]k[Byte]"},
+        Row{"behind empty lines", u"\n\n\nDim x _\n\n\nDim y\n", 7, "k[Dim]"},
         Row{"a member is no keyword", u"x.Print \"a\"\n", 1, "s[\"a\"]"},
         Row{"numbers of all kinds", u"x = &HFF + 1.5E3 + #1/31/2000#\n", 1, "n[&HFF]n[1.5E3]n[#1/31/2000#]"},
         Row{"a directive", u"#If VBA7 Then\n", 1, "k[#If]k[Then]"},

@@ -108,7 +108,7 @@ TEST(Tokenizer, CommentsAndLines) {
         {"a continuation needs no text", u"x = _\n _\n1", "N:x = ~ ~ I:1 /"},
         {"blanks behind the mark", u"x = _  \n1", "N:x = ~ I:1 /"},
         {"a continuation at the end", u"x = _", "N:x = ~ /"},
-        {"empty lines", u"\n\n a\n", "/ / N:a /"},
+        {"empty lines", u"\n\n a\n", "/ N:a /"},
         {"no line at all", u"", ""},
         {"a foreign line end is a blank", u"a\r\nb\r\n", "N:a / N:b /"},
     });
@@ -177,7 +177,7 @@ void CheckCover(TextView code) {
         const bool mayEndLine = token.kind == TokenKind::EndOfLine || token.kind == TokenKind::Continuation;
         const bool endsLine = mayEndLine && token.length > 0 && code[place - 1] == u'\n';
         ASSERT_EQ(vba::TextOf(token, code).find(u'\n') != TextView::npos, endsLine) << ToUtf8(code);
-        if (endsLine) ++lines;
+        if (endsLine) lines += token.kind == TokenKind::EndOfLine ? token.length : 1;
     }
     EXPECT_EQ(place, code.size());
     EXPECT_EQ(lines, static_cast<std::size_t>(std::count(code.begin(), code.end(), u'\n')));

@@ -24,8 +24,8 @@ inline HeaderText ReadHeader(const VBComponent& vbc, const Procedure& procedure)
 template <class Visit>
 void ForEachParameter(const VBComponent& vbc, Visit visit) {
     ForEachProcedure(vbc.CodeModule(), [&](const Procedure& procedure) {
-        for (const typParameter& parameter : GetParameters(ReadHeader(vbc, procedure).text))
-            visit(procedure, parameter);
+        const HeaderText header = ReadHeader(vbc, procedure);
+        for (const typParameter& parameter : GetParameters(header.text)) visit(procedure, parameter);
     });
 }
 

@@ -81,7 +81,7 @@ void HintSequence::Add(Hint hint) {
             return;
         }
     }
-    runs_.push_back({std::move(hint), size() + 1});
+    runs_.push_back({std::move(hint), static_cast<std::uint32_t>(size()) + 1});
 }
 
 void ResultList::Add(Hint hint) {

@@ -21,7 +21,7 @@ struct Hint {
     int lngZeile = 0;  ///< 0: the hint belongs to no line
     CheckId check{};
     /// Position of the component in the project, counted from 0; -1 for a hint about the editor. No row shows it.
-    int component = -1;
+    int component : 24 = -1;
 
     friend bool operator==(const Hint&, const Hint&) = default;
 };
@@ -42,7 +42,7 @@ class HintSequence {
   private:
     struct Run {
         Hint hint;
-        std::size_t end = 0;  ///< the number of the hint behind the run
+        std::uint32_t end = 0;  ///< the number of the hint behind the run
     };
 
   public:

@@ -82,6 +82,8 @@ class ParameterReader {
 
 std::vector<typParameter> GetParameters(TextView strZeile) {
     std::vector<typParameter> table;
+    const auto commas = std::count(strZeile.begin(), strZeile.end(), u',');
+    table.reserve(static_cast<std::size_t>(commas) + 1);  // growing would hold a long list twice
     ParameterReader reader(strZeile);
     while (!reader.AtEnd()) {
         typParameter parameter;

@@ -9,13 +9,14 @@
 namespace zentlor {
 
 struct typParameter {
-    Text strName;                 ///< a type character included; without array parentheses
+    TextView strName;             ///< a type character included; without array parentheses
     bool blnDatentyp = false;     ///< "As " follows within its part of the list, or the name ends in a type character
     bool blnKennzeichen = false;  ///< the name ends in a type character
     bool blnByValByRef = false;   ///< "ByVal", "ByRef" or "ParamArray" stands in front
 };
 
-/// The parameters of a header, which is a logical line with its comment, if any. The first one has index 0.
+/// The parameters of a header, which is a logical line with its comment, if any. The first one has index 0. Their names
+/// view the header.
 std::vector<typParameter> GetParameters(TextView strZeile);
 
 /// Column of the ")" that closes the first "(" of the text, 0 if there is none. Strings are not looked at.

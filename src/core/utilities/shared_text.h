@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <utility>
 
@@ -44,15 +44,15 @@ class SharedText {
   private:
     // The characters lie behind it.
     struct Block {
-        std::size_t owners;
-        std::size_t length;
+        std::uint32_t owners;
+        std::uint32_t length;
     };
     static_assert(sizeof(Block) % alignof(char16_t) == 0);
 
     static char16_t* CharactersOf(Block* block) { return reinterpret_cast<char16_t*>(block + 1); }
     static Block* Make(TextView text) {
         void* memory = ::operator new(sizeof(Block) + text.size() * sizeof(char16_t));
-        Block* block = new (memory) Block{1, text.size()};
+        Block* block = new (memory) Block{1, static_cast<std::uint32_t>(text.size())};
         std::uninitialized_copy(text.begin(), text.end(), CharactersOf(block));
         return block;
     }
