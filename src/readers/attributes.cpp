@@ -157,18 +157,16 @@ StrippedCode StripAttributes(TextView text) {
         }
         inside = Continues(line);
         if (hiding) {
-            if (result.fileLines.empty()) {
+            if (result.fileLines.Count() == 0) {
                 AddLine(line, result.header);
             } else {
-                result.innerAttributes.push_back({static_cast<std::uint32_t>(result.fileLines.size()), Text(line)});
+                result.innerAttributes.push_back({result.fileLines.Count(), Text(line)});
             }
             continue;
         }
         AddLine(line, result.code);
-        result.fileLines.push_back(number);
+        result.fileLines.Add(number);
     }
-    // Nothing was hidden in front of any line: the last one tells.
-    if (!result.fileLines.empty() && result.fileLines.back() == result.fileLines.size()) result.fileLines.clear();
     return result;
 }
 

@@ -21,8 +21,8 @@ enum class ExportHeader {
 struct StrippedCode {
     /// The code as the editor shows it, its lines ended by LF.
     Text code;
-    /// For every line of `code` its line in the text, counted from 1; empty where the two are equal throughout.
-    std::vector<std::uint32_t> fileLines;
+    /// For every line of `code` its line in the text.
+    FileLines fileLines;
     /// The header and the `Attribute` lines at the top, ended by LF.
     Text header;
     /// The `Attribute` lines between the lines of the code.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/utilities/text.h"
+#include "readers/file_lines.h"
 
 namespace zentlor::readers {
 
@@ -29,8 +30,8 @@ struct SourceModule {
     std::string path;
     /// The code without headers and `Attribute` lines, its lines ended by LF; a last LF makes no further line.
     Text code;
-    /// For every line of `code` the line of the file that it was read from, counted from 1. Empty: the two are equal.
-    std::vector<std::uint32_t> fileLines;
+    /// For every line of `code` the line of the file that it was read from.
+    FileLines fileLines;
     /// What an export has to give back beside the code: the header (`VERSION` … `END`) with the `Attribute` lines at
     /// the top, their lines ended by LF, and the `Attribute` lines inside of the code.
     Text header;

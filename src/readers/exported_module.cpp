@@ -77,16 +77,6 @@ ModuleType TypeOf(const std::string& ending, const StrippedCode& stripped, TextV
     return ModuleType::Standard;
 }
 
-void ShiftFileLines(SourceModule& module, std::uint32_t by) {
-    if (by == 0) return;
-    if (module.fileLines.empty()) {
-        const auto lines = std::count(module.code.begin(), module.code.end(), u'\n') + 1;
-        for (std::uint32_t line = 1; line <= static_cast<std::uint32_t>(lines); ++line)
-            module.fileLines.push_back(line);
-    }
-    for (std::uint32_t& line : module.fileLines) line += by;
-}
-
 }  // namespace
 
 std::string FileStem(std::string_view path) {
@@ -143,7 +133,7 @@ std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std
     module.fileLines = std::move(stripped.fileLines);
     module.header = std::move(stripped.header);
     module.innerAttributes = std::move(stripped.innerAttributes);
-    if (access) ShiftFileLines(module, access->linesBefore);
+    if (access) module.fileLines.ShiftBy(access->linesBefore);
     return module;
 }
 

@@ -23,7 +23,7 @@ struct OvbaProject {
     int codePage = 1252;
     bool locked = false;
     std::vector<Text> references;
-    /// In the order of `dir`; their lines count as in the editor, so `fileLines` is empty.
+    /// In the order of `dir`; their lines count as in the editor, `fileLines` changes none.
     std::vector<SourceModule> modules;
     std::vector<Sentence> problems;
     /// Modules whose source was removed while their compiled form is there. They are not in `modules`, and no problem

@@ -186,8 +186,7 @@ class Opener {
 }  // namespace
 
 int ModuleOrigin::FileLine(int line) const {
-    const auto index = static_cast<std::size_t>(line - 1);
-    return index < fileLines.size() ? static_cast<int>(fileLines[index]) : line;
+    return static_cast<int>(fileLines.Of(static_cast<std::uint32_t>(line)));
 }
 
 int OpenedProject::LineCount() const {

@@ -19,8 +19,7 @@ namespace zentlor::workspace {
 struct ModuleOrigin {
     /// The module's own file, or document and module name: "Kunden.accdb/Form_Bestellung".
     std::string path;
-    /// The line of that file for each line of the module; empty where the two are equal.
-    std::vector<std::uint32_t> fileLines;
+    readers::FileLines fileLines;
     /// What the editor hides: see readers::SourceModule.
     Text header;
     std::vector<readers::HiddenLine> innerAttributes;

@@ -14,6 +14,17 @@ struct Row {
     std::vector<std::uint32_t> fileLines;
 };
 
+// Nothing where all lines have their own number.
+std::vector<std::uint32_t> MovedLines(const FileLines& lines) {
+    std::vector<std::uint32_t> moved;
+    bool isMoved = false;
+    for (std::uint32_t line = 1; line <= lines.Count(); ++line) {
+        moved.push_back(lines.Of(line));
+        isMoved = isMoved || moved.back() != line;
+    }
+    return isMoved ? moved : std::vector<std::uint32_t>();
+}
+
 TEST(Attributes, HidesAttributeLinesAndNothingElse) {
     const Row rows[] = {
         {"nothing to hide", u"Option Explicit\r\nDim a\r\n", u"Option Explicit\nDim a\n", {}},
@@ -44,7 +55,7 @@ TEST(Attributes, HidesAttributeLinesAndNothingElse) {
     for (const Row& row : rows) {
         const StrippedCode stripped = StripAttributes(row.text);
         EXPECT_EQ(ToUtf8(stripped.code), ToUtf8(row.code)) << row.why;
-        EXPECT_EQ(stripped.fileLines, row.fileLines) << row.why;
+        EXPECT_EQ(MovedLines(stripped.fileLines), row.fileLines) << row.why;
     }
 }
 
@@ -77,7 +88,7 @@ TEST(Attributes, HidesTheHeaderOfAnExport) {
     for (const Row& row : rows) {
         const StrippedCode stripped = StripAttributes(row.text);
         EXPECT_EQ(ToUtf8(stripped.code), ToUtf8(row.code)) << row.why;
-        EXPECT_EQ(stripped.fileLines, row.fileLines) << row.why;
+        EXPECT_EQ(MovedLines(stripped.fileLines), row.fileLines) << row.why;
     }
 }
 

@@ -44,7 +44,7 @@ TEST(OvbaProject, GivesModulesAsTheEditorShowsThem) {
     EXPECT_EQ(ToUtf8(read.modules[0].code), "Option Explicit\n\nSub A()\nEnd Sub\n");
     EXPECT_EQ(ToUtf8(read.modules[0].header), "Attribute VB_Name = \"Modul1\"\n");
     EXPECT_EQ(read.modules[0].path, "Kasse.xls");
-    EXPECT_TRUE(read.modules[0].fileLines.empty());
+    EXPECT_EQ(read.modules[0].fileLines.Of(2), 2U);
     const int types[] = {1, 2, 3, 100, 100};
     for (std::size_t i = 0; i < 5; ++i) EXPECT_EQ(static_cast<int>(read.modules[i].type), types[i]) << i;
 }

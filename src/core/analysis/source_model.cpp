@@ -13,8 +13,19 @@ namespace {
 constexpr std::size_t kNotFound = TextView::npos;
 
 std::vector<std::uint32_t> FindLineStarts(TextView text) {
-    std::vector<std::uint32_t> starts{0};
-    ForEachPlace(text, u'\n', [&](std::size_t end) { starts.push_back(static_cast<std::uint32_t>(end) + 1); });
+    constexpr std::size_t kShortLine = 16;
+    std::vector<std::uint32_t> starts;
+    starts.reserve(text.size() / kShortLine + 1);
+    starts.push_back(0);
+    ForEachPlace(text, u'\n', [&](std::size_t end) {
+        if (starts.size() == starts.capacity()) {
+            // Growing by halves would hold the starts of a million empty lines twice.
+            const TextView rest = text.substr(end);
+            const auto more = std::count(rest.begin(), rest.end(), u'\n');
+            starts.reserve(starts.size() + static_cast<std::size_t>(more));
+        }
+        starts.push_back(static_cast<std::uint32_t>(end) + 1);
+    });
     return starts;
 }
 
