@@ -4,8 +4,10 @@
 
 #include <cstdio>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "cli/commands.h"
+#include "cli/report.h"
 #include "cli/words.h"
 #include "core/language/messages.h"
 #include "core/utilities/encoding.h"
@@ -16,14 +18,13 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-std::vector<TextView> LinesOf(TextView code) {
-    std::vector<TextView> lines;
+template <class Visit>
+void ForEachLine(TextView code, Visit visit) {
     for (std::size_t begin = 0; begin < code.size();) {
-        const std::size_t end = std::min(code.find(u'\n', begin), code.size());
-        lines.push_back(code.substr(begin, end - begin));
+        const std::size_t end = FindCharacter(code, begin, u'\n');
+        visit(code.substr(begin, end - begin));
         begin = end + 1;
     }
-    return lines;
 }
 
 // The code as it was read: kept apart only where it differs.
@@ -44,35 +45,77 @@ Json ControlsOf(const readers::Document& document, TextView component) {
     return nullptr;
 }
 
-Json DumpProject(const workspace::OpenedProject& project, bool raw) {
-    Json components = Json::array();
-    for (const auto& component : project.project->VBComponents()) {
-        Json lines = Json::array();
-        for (const TextView line : LinesOf(raw ? RawCode(project, *component) : component->CodeModule().AllText())) {
-            lines.push_back(ToUtf8(line));
-        }
-        Json entry = {{"name", ToUtf8(component->Name())},
-                      {"type", component->Type()},
-                      {"path", project.OriginOf(*component).path},
-                      {"declarationLines", component->CodeModule().CountOfDeclarationLines()},
-                      {"lines", std::move(lines)}};
-        Json controls = ControlsOf(project.document, component->Name());
-        if (!controls.is_null()) entry["controls"] = std::move(controls);
-        components.push_back(std::move(entry));
+// Writes what was gathered once it is much: a project's text in this form is larger than the project.
+class Output {
+  public:
+    explicit Output(int sprache) : sprache_(sprache) {}
+
+    std::string text;
+
+    void EndLine() {
+        constexpr std::size_t kPiece = 1 << 20;
+        if (text.size() >= kPiece) Flush();
     }
-    return {{"name", ToUtf8(project.project->Name())}, {"components", std::move(components)}};
+    /// False if something could not be written, which has been told.
+    bool Flush() {
+        isWritten_ = isWritten_ && WriteOutput({}, text, sprache_);
+        text.clear();
+        return isWritten_;
+    }
+
+  private:
+    int sprache_;
+    bool isWritten_ = true;
+};
+
+std::string Printed(const Json& value) {
+    return value.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-void AppendChangedLines(const workspace::OpenedProject& project, const VBComponent& component, std::string& out) {
+void WriteComponent(const workspace::OpenedProject& project, const VBComponent& component, bool raw, Output& out) {
+    const Json head = {{"name", ToUtf8(component.Name())},
+                       {"type", component.Type()},
+                       {"path", project.OriginOf(component).path},
+                       {"declarationLines", component.CodeModule().CountOfDeclarationLines()}};
+    out.text += Printed(head);
+    out.text.back() = ',';
+    out.text += "\"lines\":[";
+    bool isFirst = true;
+    ForEachLine(raw ? RawCode(project, component) : component.CodeModule().AllText(), [&](TextView line) {
+        if (!std::exchange(isFirst, false)) out.text += ',';
+        AppendJsonString(line, out.text);
+        out.EndLine();
+    });
+    out.text += ']';
+    const Json controls = ControlsOf(project.document, component.Name());
+    if (!controls.is_null()) out.text += ",\"controls\":" + Printed(controls);
+    out.text += '}';
+}
+
+void WriteProject(const workspace::OpenedProject& project, bool raw, Output& out) {
+    out.text += "{\"name\":";
+    AppendJsonString(project.project->Name(), out.text);
+    out.text += ",\"components\":[";
+    bool isFirst = true;
+    for (const auto& component : project.project->VBComponents()) {
+        if (!std::exchange(isFirst, false)) out.text += ',';
+        WriteComponent(project, *component, raw, out);
+    }
+    out.text += "]}\n";
+    out.EndLine();
+}
+
+void WriteChangedLines(const workspace::OpenedProject& project, const VBComponent& component, Output& out) {
     const workspace::ModuleOrigin& origin = project.OriginOf(component);
     if (origin.rawCode.empty()) return;
-    const std::vector<TextView> raw = LinesOf(origin.rawCode);
-    const std::vector<TextView> canonical = LinesOf(component.CodeModule().AllText());
-    for (std::size_t i = 0; i < std::min(raw.size(), canonical.size()); ++i) {
-        if (raw[i] == canonical[i]) continue;
-        out += fmt::format("{}:{}:\n-{}\n+{}\n", Printable(origin.path), origin.FileLine(static_cast<int>(i) + 1),
-                           Printable(raw[i]), Printable(canonical[i]));
-    }
+    const CodeModule& cm = component.CodeModule();
+    int line = 0;
+    ForEachLine(origin.rawCode, [&](TextView raw) {
+        if (++line > cm.CountOfLines() || raw == cm.Lines(line)) return;
+        out.text += fmt::format("{}:{}:\n-{}\n+{}\n", Printable(origin.path), origin.FileLine(line), Printable(raw),
+                                Printable(cm.Lines(line)));
+        out.EndLine();
+    });
 }
 
 // In the JSON form, whatever the language.
@@ -102,16 +145,15 @@ Json JsonOf(const workspace::OpenedProject& project, const workspace::CompileErr
 int RunDump(const Arguments& arguments) {
     const int sprache = LanguageOf(arguments);
     const workspace::Workspace opened = OpenFor(arguments, arguments.raw || arguments.diff, sprache);
-    std::string out;
+    Output out(sprache);
     for (const workspace::OpenedProject& project : opened.projects) {
         if (!arguments.diff) {
-            out += DumpProject(project, arguments.raw).dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+            WriteProject(project, arguments.raw, out);
             continue;
         }
-        for (const auto& component : project.project->VBComponents()) AppendChangedLines(project, *component, out);
+        for (const auto& component : project.project->VBComponents()) WriteChangedLines(project, *component, out);
     }
-    const bool written = WriteOutput({}, out, sprache);
-    return written && opened.Complete() ? kNoHints : kTrouble;
+    return out.Flush() && opened.Complete() ? kNoHints : kTrouble;
 }
 
 int RunChecks(const Arguments& arguments) {
