@@ -2,6 +2,7 @@
 
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "studio/icons.h"
 #include "studio/qtext.h"
@@ -142,8 +143,10 @@ void CodeTabs::Mark(const Pane& pane) const {
     std::map<int, QString> marks;
     const bool mayHaveHints = hints_ != nullptr && pane.shown != nullptr && &pane.shown->Project() == hintsProject_;
     if (mayHaveHints) {
+        const Hint* last = nullptr;
         for (const Hint& hint : hints_->Emitted()) {
-            if (hint.strNameVBC != pane.component) continue;
+            const bool isRepeated = std::exchange(last, &hint) == &hint;  // one line may hold a thing a thousand times
+            if (isRepeated || hint.strNameVBC != pane.component) continue;
             QString& text = marks[std::max(hint.lngZeile, 1)];
             if (!text.isEmpty()) text += u'\n';
             text += ToQString(hint.strHinweis);
