@@ -5,15 +5,13 @@
 
 #include <algorithm>
 
-#include "vba/parser_condition.h"
-
 namespace zentlor::vba {
 namespace {
 
 class BranchSelector {
   public:
-    BranchSelector(TextView text, Branches branches, FoundFaults& faults)
-        : text_(text), branches_(branches), faults_(faults) {}
+    BranchSelector(TextView text, Branches branches, const ConditionSettings& settings, FoundFaults& faults)
+        : text_(text), branches_(branches), faults_(faults), constants_(settings) {}
 
     Tokens Select(const Tokens& tokens) {
         selected_.reserve(tokens.size());
@@ -115,8 +113,9 @@ bool HasDirectives(const Tokens& tokens) {
     return std::ranges::any_of(tokens, [](const Token& token) { return token.Is(TokenKind::Directive); });
 }
 
-Tokens SelectBranches(TextView text, const Tokens& tokens, Branches branches, FoundFaults& faults) {
-    return BranchSelector(text, branches, faults).Select(tokens);
+Tokens SelectBranches(TextView text, const Tokens& tokens, Branches branches, const ConditionSettings& settings,
+                      FoundFaults& faults) {
+    return BranchSelector(text, branches, settings, faults).Select(tokens);
 }
 
 }  // namespace zentlor::vba

@@ -4,6 +4,7 @@
 // that don't count.
 
 #include "core/utilities/text.h"
+#include "vba/parser_condition.h"
 #include "vba/parser_faults.h"
 #include "vba/token.h"
 
@@ -16,7 +17,9 @@ enum class Branches : std::uint8_t {
 
 bool HasDirectives(const Tokens& tokens);
 
-/// The tokens without directives. Offsets still point into `text`. Notes directives that don't fit together.
-Tokens SelectBranches(TextView text, const Tokens& tokens, Branches branches, FoundFaults& faults);
+/// The tokens without directives. Offsets still point into `text`. Notes directives that don't fit together. `settings`
+/// play a part for the active branches.
+Tokens SelectBranches(TextView text, const Tokens& tokens, Branches branches, const ConditionSettings& settings,
+                      FoundFaults& faults);
 
 }  // namespace zentlor::vba

@@ -201,8 +201,10 @@ Text Folded(TextView name) {
 
 }  // namespace
 
-ConditionConstants::ConditionConstants() {
-    for (const TextView name : {u"VBA6", u"VBA7", u"Win32", u"Win64"}) Set(name, Number(kTrue));
+ConditionConstants::ConditionConstants(const ConditionSettings& settings) : others_(Number(settings.others)) {
+    for (const TextView name : {u"VBA6", u"VBA7", u"Win32"}) Set(name, Number(kTrue));
+    for (const TextView name : {u"Mac", u"Win16"}) Set(name, Number(0));
+    Set(u"Win64", Truth(settings.isWin64));
 }
 
 void ConditionConstants::Set(TextView name, const ConditionValue& value) {
@@ -211,7 +213,7 @@ void ConditionConstants::Set(TextView name, const ConditionValue& value) {
 
 ConditionValue ConditionConstants::ValueOf(TextView name) const {
     const auto found = values_.find(Folded(name));
-    return found == values_.end() ? ConditionValue{} : found->second;
+    return found == values_.end() ? others_ : found->second;
 }
 
 ConditionValue EvaluateCondition(TextView text, const ConditionConstants& constants, const Token*& token) {

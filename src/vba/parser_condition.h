@@ -18,17 +18,23 @@ struct ConditionValue {
     bool IsTrue() const { return number != 0; }
 };
 
+/// What the editor defines and the settings of the project may.
+struct ConditionSettings {
+    bool isWin64 = true;  ///< The editor is a 64-bit one; always one on Windows with VBA 7.
+    double others = 0;    ///< What the constants are that nothing in the module defines.
+};
+
 class ConditionConstants {
   public:
-    /// The constants that a 64-bit editor on Windows defines.
-    ConditionConstants();
+    explicit ConditionConstants(const ConditionSettings& settings);
     /// Sets a constant; its name counts in any capitalisation.
     void Set(TextView name, const ConditionValue& value);
-    /// The constant's value, or Empty if nothing defines it.
+    /// The constant's value, or that of the others if nothing defines it.
     ConditionValue ValueOf(TextView name) const;
 
   private:
     std::map<Text, ConditionValue> values_;
+    ConditionValue others_;
 };
 
 /// The value of the expression that begins at `token`; `token` then is the first one that does not belong to it. What

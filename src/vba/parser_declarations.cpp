@@ -56,11 +56,15 @@ bool DeclarationParser::ParseParameters(ParameterOwner owner, int& count) {
     if (Accept(Operator::CloseParenthesis)) return true;
     bool isOptional = false;
     bool isLast = false;
+    bool isBehindLast = false;
     do {
         const Token& parameter = Here();
-        if (isLast) return Fail(Fault::ParamArrayLast, parameter);
+        // The new value of a property stands behind its `ParamArray`.
+        const bool mayFollow = !isLast || (owner == ParameterOwner::PropertyWithValue && !isBehindLast);
+        if (!mayFollow) return Fail(Fault::ParamArrayLast, parameter);
+        isBehindLast = isLast;
         const bool wasOptional = isOptional;
-        if (!ParseParameter(isOptional, isLast)) return false;
+        if (!ParseParameter(owner, isOptional, isLast)) return false;
         ++count;
         if (!Here().Is(Operator::Comma) && !Here().Is(Operator::CloseParenthesis)) {
             return FailExpecting(Fault::CommaOrClose);
@@ -76,7 +80,7 @@ bool DeclarationParser::ParseParameters(ParameterOwner owner, int& count) {
 }
 
 // `isOptional` and `isLast` receive whether `Optional` and `ParamArray` stand in front of the name.
-bool DeclarationParser::ParseParameter(bool& isOptional, bool& isLast) {
+bool DeclarationParser::ParseParameter(ParameterOwner owner, bool& isOptional, bool& isLast) {
     isOptional = false;
     while (Here().Is(TokenKind::Keyword)) {
         if (Accept(Keyword::Optional)) {
@@ -88,7 +92,8 @@ bool DeclarationParser::ParseParameter(bool& isOptional, bool& isLast) {
         }
     }
     if (!ParseDeclaredName()) return false;
-    DeclareInProcedure(Behind());
+    // Nothing uses the names of a library procedure's parameters.
+    if (owner != ParameterOwner::Library) DeclareInProcedure(Behind());
     int bounds = 0;
     if (Here().Is(Operator::OpenParenthesis) && !ParseParenthesizedArguments(bounds)) return false;
     return ParseOptionalType() && (!Accept(Operator::Equal) || ParseExpression());

@@ -51,7 +51,7 @@ class DeclarationParser : protected ExpressionParser {
 
   private:
     void Declare(Scope scope, const Token& name);
-    bool ParseParameter(bool& isOptional, bool& isLast);
+    bool ParseParameter(ParameterOwner owner, bool& isOptional, bool& isLast);
     bool HasOtherTypeCharacter(const Token& a, const Token& b) const;
 };
 

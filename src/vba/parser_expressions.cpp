@@ -7,6 +7,10 @@ namespace {
 
 constexpr int kDeepest = 200;
 
+bool IsPrint(const Token& name) {
+    return name.Has(kMember) && name.keyword() == Keyword::Print;
+}
+
 }  // namespace
 
 bool ExpressionParser::ParseExpression() {
@@ -178,19 +182,19 @@ bool ExpressionParser::ParseStatementHead(Operand& operand) {
     }
     operand.lastName = &Behind();
     while (true) {
-        const bool isMember = Here().Is(Operator::Dot) || Here().Is(Operator::Bang);
+        const bool isMark = Here().Is(Operator::Dot) || Here().Is(Operator::Bang);
         // `Show .Name` calls Show with a member of the `With` object.
-        if (isMember && !operand.endsInParentheses && !IsAttached()) return true;
+        const bool isMember = isMark && (operand.endsInParentheses || IsAttached());
         if (isMember) {
             if (!ParseMember()) return false;
             operand.endsInParentheses = false;
             operand.lastName = &Behind();
-        } else if (Here().Is(Operator::OpenParenthesis) && !IsDrawing(*operand.lastName)) {
-            if (!ParseParenthesizedArguments(operand.arguments)) return false;
-            operand.endsInParentheses = true;
-        } else {
-            return true;
+            continue;
         }
+        operand.isPrint = operand.isPrint || IsPrint(*operand.lastName);
+        if (!Here().Is(Operator::OpenParenthesis) || IsDrawing(*operand.lastName)) return true;
+        if (!ParseParenthesizedArguments(operand.arguments)) return false;
+        operand.endsInParentheses = operand.hasParentheses = true;
     }
 }
 

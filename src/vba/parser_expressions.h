@@ -15,7 +15,9 @@ class ExpressionParser : protected ParserReader {
     struct Operand {
         const Token* lastName = nullptr;  ///< The last name in it: of `a.b(1)` it is `b`.
         bool endsInParentheses = false;
-        int arguments = 0;  ///< In the parentheses that it ends with.
+        bool hasParentheses = false;  ///< At its end or before.
+        bool isPrint = false;         ///< Ends with a member `Print`, or has one in front of parentheses.
+        int arguments = 0;            ///< In the parentheses that it ends with.
     };
 
     bool ParseExpression();

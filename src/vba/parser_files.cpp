@@ -47,6 +47,16 @@ bool StatementParser::ParseFileArguments() {
     return ParseArgumentList();
 }
 
+// `Lock #1, 2 To 5`: either end of the range may be left out.
+bool StatementParser::ParseLock() {
+    Advance();
+    Accept(Operator::Hash);
+    if (!ParseExpression()) return false;
+    if (!Accept(Operator::Comma)) return true;
+    if (!Here().Is(Keyword::To) && !ParseExpression()) return false;
+    return !Accept(Keyword::To) || ParseExpression();
+}
+
 // `Print #1, a; b`, `Write #1, a, b`, and `Print a; b` of a form.
 bool StatementParser::ParseOutput() {
     Advance();
@@ -54,7 +64,7 @@ bool StatementParser::ParseOutput() {
     return ParseOutputList();
 }
 
-// Behind `Debug.Print`, or behind its first operand if that stood in parentheses: `Debug.Print (a) * 2; b`.
+// Behind `Debug.Print`, or behind its first operand if that began with parentheses: `Debug.Print (a).b * 2; c`.
 bool StatementParser::ParseOutputTail() {
     if (AtBinaryOperator()) Advance();
     return ParseOutputList();

@@ -277,7 +277,6 @@ bool ModuleParser::ParseEvent() {
     Advance();
     if (!Here().IsWord()) return FailExpecting(Fault::Name);
     Advance();
-    locals_.Clear();
     int parameters = 0;
     return !Here().Is(Operator::OpenParenthesis) || ParseParameters(ParameterOwner::Library, parameters);
 }
@@ -294,7 +293,6 @@ bool ModuleParser::ParseLibraryProcedure() {
     if (!Here().Is(TokenKind::String)) return FailExpecting(Fault::LibraryName);
     if (!ParseExpression()) return false;
     if (Accept(Keyword::Alias) && !ParseExpression()) return false;
-    locals_.Clear();
     int parameters = 0;
     if (Here().Is(Operator::OpenParenthesis) && !ParseParameters(ParameterOwner::Library, parameters)) return false;
     return ParseReturnType();

@@ -136,10 +136,11 @@ bool StatementParser::ParseKeywordStatement() {
         case Keyword::Close:
         case Keyword::Erase:
         case Keyword::Get:
-        case Keyword::Lock:
         case Keyword::Put:
-        case Keyword::Unlock:
             return ParseFileArguments();
+        case Keyword::Lock:
+        case Keyword::Unlock:
+            return ParseLock();
         case Keyword::Print:
         case Keyword::Write:
             return ParseOutput();
@@ -180,8 +181,7 @@ bool StatementParser::ParseNameStatement() {
 bool StatementParser::ParseCallOrAssignment() {
     Operand head;
     if (!ParseStatementHead(head)) return false;
-    const bool isPrint = head.lastName->Has(kMember) && head.lastName->keyword() == Keyword::Print;
-    if (isPrint && !AtStatementEnd()) return ParseOutputTail();
+    if (head.isPrint && !AtStatementEnd()) return ParseOutputTail();
     if (Accept(Operator::Equal)) return ParseExpression();
     return ParseRestOfCall(head);
 }
@@ -196,7 +196,10 @@ bool StatementParser::ParseRestOfCall(const Operand& head) {
         return ParseExpression();
     }
     if (IsDrawing(*head.lastName)) return ParseDrawing();
-    return head.endsInParentheses ? ParseArgumentTail() : ParseArgumentList();
+    if (head.endsInParentheses) return ParseArgumentTail();
+    // `Show (a).b & c`: what began with parentheses is the start of the first argument.
+    if (head.hasParentheses && AtBinaryOperator()) Advance();
+    return ParseArgumentList();
 }
 
 // Behind `Show (a)`: the parentheses were the first argument, or the start of it.

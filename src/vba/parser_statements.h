@@ -57,6 +57,7 @@ class StatementParser : protected DeclarationParser {
 
     // parser_files.cpp
     bool ParseOpen();
+    bool ParseLock();
     bool ParseFileArguments();
     bool ParseOutput();
     bool ParseOutputTail();

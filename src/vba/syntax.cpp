@@ -1,5 +1,7 @@
 // Most modules are read once. One with conditional compilation is first read with all its branches; only if they don't
-// go together, as when each branch has a header for the same procedure, the active branches alone decide.
+// go together, as when each branch has a header for the same procedure, the active branches alone decide. Which ones
+// these are hangs on the editor and on constants that the project's settings define, so a module that fits any of the
+// usual ones is taken.
 
 #include "vba/syntax.h"
 
@@ -16,19 +18,31 @@ FoundFaults FaultsOf(TextView text, const Tokens& tokens) {
     return faults;
 }
 
-FoundFaults FaultsOf(TextView text, const Tokens& tokens, Branches branches) {
+FoundFaults FaultsOf(TextView text, const Tokens& tokens, Branches branches, const ConditionSettings& settings) {
     FoundFaults faults;
-    const Tokens selected = SelectBranches(text, tokens, branches, faults);
+    const Tokens selected = SelectBranches(text, tokens, branches, settings, faults);
     ModuleParser(text, selected, faults).Parse();
     return faults;
+}
+
+// The first settings are the ones whose faults are reported.
+constexpr ConditionSettings kUsualSettings[] = {{true, 0}, {false, 0}, {true, -1}, {true, 1}};
+
+FoundFaults FaultsOfBranches(TextView text, const Tokens& tokens) {
+    if (FaultsOf(text, tokens, Branches::All, kUsualSettings[0]).empty()) return {};
+    FoundFaults first;
+    for (const ConditionSettings& settings : kUsualSettings) {
+        FoundFaults faults = FaultsOf(text, tokens, Branches::Active, settings);
+        if (faults.empty()) return faults;
+        if (first.empty()) first = std::move(faults);
+    }
+    return first;
 }
 
 }  // namespace
 
 std::vector<SyntaxError> CheckSyntax(TextView text, const Tokens& tokens) {
-    if (!HasDirectives(tokens)) return Describe(text, FaultsOf(text, tokens));
-    if (FaultsOf(text, tokens, Branches::All).empty()) return {};
-    return Describe(text, FaultsOf(text, tokens, Branches::Active));
+    return Describe(text, HasDirectives(tokens) ? FaultsOfBranches(text, tokens) : FaultsOf(text, tokens));
 }
 
 }  // namespace zentlor::vba
