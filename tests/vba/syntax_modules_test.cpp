@@ -34,12 +34,16 @@ constexpr Module kModules[] = {
     {"three sides of a property",
      u"Property Get P(Optional i)\nEnd Property\nProperty Let P(Optional i, v)\nEnd Property\n"
      u"Property Set P(Optional i, v As Object)\nEnd Property\n"},
+    {"the new value of a property behind its ParamArray",
+     u"Property Let P(ParamArray i(), ByVal v)\nEnd Property\nProperty Set P(k, ParamArray i(), v As Object)\nEnd "
+     u"Property\n"},
     {"parameters",
      u"Sub A(a%, b$, ByVal c As Long, ByRef d() As Byte, Optional e As Long = -1, Optional f = \"x,)\")\nEnd Sub\n"
      u"Sub B(x, ParamArray y() As Variant)\nEnd Sub\n"},
     {"library procedures",
      u"Private Declare PtrSafe Function F Lib \"k\" Alias \"#12\" (ByVal a As Any, b() As Byte) As LongPtr\n"
-     u"Declare Function G% CDecl Lib \"x\" ()\nDeclare Sub H Lib \"y\"\n"},
+     u"Declare Function G% CDecl Lib \"x\" ()\nDeclare Sub H Lib \"y\"\n"
+     u"Declare Sub I Lib \"z\" (ByVal dwReserved As Long, ByVal dwReserved As Long)\n"},
     {"types with members that are keywords",
      u"Private Type T\nName As String * 10\nType As Long\nEnd As Long\nNext(1 To 3) As Byte: Get As Object\nEnd "
      u"Type\n"},
@@ -80,6 +84,10 @@ constexpr Module kBranches[] = {
     {"constant set in a branch that does not count",
      u"#If Mac Then\n#Const X = 1\n#End If\n#If X Then\nSub (\n#Else\nSub A()\n#End If\nEnd Sub\n"},
     {"EndIf in one word", u"#If VBA7 Then\n#EndIf\n"},
+    {"fits an editor of 32 bits", u"#If Win64 Then\nSub A(\n#Else\nSub A()\n#End If\nEnd Sub\n"},
+    {"fits a constant of the project's settings",
+     u"#If Excel Then\nSub A()\n#ElseIf Access Then\nSub A(x)\n#End If\nEnd Sub\n"},
+    {"the constant is a number", u"#If Host = 1 Then\nSub A()\n#ElseIf Host = 2 Then\nSub A(x)\n#End If\nEnd Sub\n"},
 };
 
 TEST(SyntaxModules, BranchesThatCannotStandTogetherAreDecided) {

@@ -84,6 +84,7 @@ constexpr Row kCalls[] = {
     {"first argument in parentheses", u"A (x), y"},
     {"first argument begins with parentheses", u"A (x) + 1, y\nA (x) & \"b\""},
     {"only argument in parentheses", u"A (x)"},
+    {"first argument in parentheses with a member", u"A (x).b & c, d\nA (x).b(1) And c\nA x(1).b (c).d * 2"},
     {"omitted arguments", u"A , , x\nA x, , y\nz = A(, , x)"},
     {"named arguments with keywords", u"A Type:=8, End:=x, Name:=\"a\", If:=3\nz = A(Next:=1)"},
     {"signed argument", u"A -1\nA Not x"},
@@ -97,7 +98,9 @@ constexpr Row kCalls[] = {
     {"member on a continued line", u"Range(\"A1\") _\n    .Font _\n    .Bold = True"},
     {"RaiseEvent", u"RaiseEvent Changed(x, 1): RaiseEvent Done"},
     {"Debug", u"Debug.Print: Debug.Print x; y,: Debug.Print \"x\" Tab(3) y: Debug.Assert x > 1"},
-    {"Debug.Print begins with parentheses", u"Debug.Print (x); (y): Debug.Print (x) = (y); x\nDebug.Print (x + 1) * 2"},
+    {"Debug.Print begins with parentheses",
+     u"Debug.Print (x); (y): Debug.Print (x) = (y); x\nDebug.Print (x + 1) * 2\nDebug.Print (x).y; z: Debug.Print "
+     u"(x).y Like z; x"},
     {"error raised", u"Err.Raise 5, , \"x\": Error 5"},
     {"SendKeys, Unload, Load", u"SendKeys \"x\", True: Unload Me: Load x"},
 };
@@ -133,7 +136,8 @@ constexpr Row kFiles[] = {
     {"Print", u"Print #1,: Print #1: Print #1, x; y, z;: Print #n, Tab(5); x;: Print #1, Spc(3) x"},
     {"Write", u"Write #1,: Write #1, x, y: Write #1"},
     {"Input", u"Input #1, x, y: Line Input #1, s: Line Input 1, s: s = Input(5, #1): s = Input$(LOF(1), 1)"},
-    {"Seek, Lock, Unlock, Width", u"Seek #1, 5: n = Seek(1): Lock #1: Lock #1, 1 To 2: Unlock 1, 2: Width #1, 80"},
+    {"Seek, Lock, Unlock, Width",
+     u"Seek #1, 5: n = Seek(1): Lock #1: Lock #1, 1 To 2: Lock #1, To 2: Unlock 1, 2: Width #1, 80"},
     {"Name", u"Name \"a\" As \"b\": Name x As y: Name (x) As y: Name x & \"a\" As y & \"b\": Name x.y As z"},
 };
 
