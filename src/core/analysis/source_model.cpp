@@ -29,6 +29,17 @@ std::vector<std::uint32_t> FindLineStarts(TextView text) {
     return starts;
 }
 
+// As FindText, whatever the case. A letter of ASCII has two forms and no others.
+std::size_t FindIgnoringCase(TextView text, std::size_t from, TextView target) {
+    const char16_t first = FoldCase(target.front());
+    const bool isAsciiLetter = first >= u'a' && first <= u'z';
+    for (std::size_t i = from; i + target.size() <= text.size(); ++i) {
+        if (isAsciiLetter) i = FindAny(text, i, first, static_cast<char16_t>(first - u'a' + u'A'));
+        if (EqualIgnoringCase(text.substr(i, target.size()), target)) return i;
+    }
+    return text.size();
+}
+
 bool HasCase(TextView target) {
     return std::any_of(target.begin(), target.end(), [](char16_t c) { return IsWordCharacter(c); });
 }
@@ -128,15 +139,11 @@ bool CodeModule::StandsFree(std::size_t offset, std::size_t length, bool (*conti
 }
 
 std::size_t CodeModule::SearchText(TextView target, Bounds bounds, FindFlags flags) const {
-    const TextView text(text_);
+    const TextView text = TextView(text_).substr(0, bounds.to);
     const bool exact = flags.matchCase || !HasCase(target);
     for (std::size_t i = bounds.from; i + target.size() <= bounds.to; ++i) {
-        if (exact) {
-            i = FindText(text.substr(0, bounds.to), i, target);
-            if (i >= bounds.to) return kNotFound;
-        } else if (!EqualIgnoringCase(text.substr(i, target.size()), target)) {
-            continue;
-        }
+        i = exact ? FindText(text, i, target) : FindIgnoringCase(text, i, target);
+        if (i >= bounds.to) return kNotFound;
         if (!flags.wholeWord || StandsFree(i, target.size(), IsWordCharacter)) return i;
     }
     return kNotFound;

@@ -9,9 +9,9 @@
 
 namespace zentlor {
 
-/// What a turn finds out about one name.
+/// What a turn finds out about one name. The name views the statement.
 struct DeclaredName {
-    Text strName;
+    TextView strName;
     bool blnDatentyp = false;
     bool blnKennzeichen = false;
 };

@@ -83,7 +83,8 @@ Text GibGanzeZeileBisEnde(const VBComponent& vbc, int lngZeile, int lngSpalte, i
         const CodeModule& cm = vbc.CodeModule();
         Text joined;
         lngAnzahl = AppendForward(cm, lngZeile, cm.Lines(lngZeile), joined);
-        result = Mid(joined, lngSpalte);
+        joined.erase(0, joined.size() - Mid(joined, lngSpalte).size());
+        result = std::move(joined);
     });
     return result;
 }
