@@ -88,7 +88,7 @@ std::vector<typParameter> GetParameters(TextView strZeile) {
     while (!reader.AtEnd()) {
         typParameter parameter;
         if (!reader.Read(parameter)) break;
-        table.push_back(std::move(parameter));
+        table.push_back(parameter);
     }
     return table;
 }
