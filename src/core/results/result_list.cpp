@@ -67,8 +67,17 @@ Text CellText(const Hint& hint, int column) {
 }
 
 const Hint& HintSequence::operator[](std::size_t index) const {
-    const auto behind = [](std::size_t place, const Run& run) { return place < run.end; };
-    return std::upper_bound(runs_.begin(), runs_.end(), index, behind)->hint;
+    while (runOf_.size() <= index) {
+        std::uint32_t run = runOf_.empty() ? 0 : runOf_.back();
+        if (runs_[run].end == runOf_.size()) ++run;
+        runOf_.push_back(run);
+    }
+    return runs_[runOf_[index]].hint;
+}
+
+void HintSequence::Clear() {
+    runs_.clear();
+    runOf_.clear();
 }
 
 void HintSequence::Add(Hint hint) {

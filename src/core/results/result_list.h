@@ -32,12 +32,12 @@ class HintSequence {
   public:
     std::size_t size() const { return runs_.empty() ? 0 : runs_.back().end; }
     bool empty() const { return runs_.empty(); }
-    /// Takes time in the logarithm of the hints that differ; `index` is below size().
+    /// `index` is below size(). The first questions behind an Add take time in what was added.
     const Hint& operator[](std::size_t index) const;
     const Hint& back() const { return runs_.back().hint; }
 
     void Add(Hint hint);
-    void Clear() { runs_.clear(); }
+    void Clear();
 
   private:
     struct Run {
@@ -78,7 +78,8 @@ class HintSequence {
     Iterator end() const { return {runs_.end(), size()}; }
 
   private:
-    std::deque<Run> runs_;  // grows without a second copy of a million hints
+    std::deque<Run> runs_;                      // grows without a second copy of a million hints
+    mutable std::vector<std::uint32_t> runOf_;  // by number of the hint, as far as was asked
 };
 
 /// Sort keys as the list's columns have them: 0 module, 1 procedure, 2 hint, 3 the line as plain text (no header leads
