@@ -4,6 +4,8 @@
 
 #include "core/utilities/encoding.h"
 #include "readers/attributes.h"
+#include "readers/code_page.h"
+#include "readers/double_byte.h"
 #include "readers/sentences.h"
 
 namespace zentlor::readers {
@@ -98,7 +100,8 @@ Text DecodeModuleText(std::string_view bytes) {
     if (bytes.starts_with(kUtf16BeMark)) return FromUtf16Be(bytes.substr(kUtf16BeMark.size()));
     if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
     if (auto text = FromUtf8Strict(bytes)) return std::move(*text);
-    return FromWindows1252(bytes);
+    DecodedText decoded = DecodeCodePage(bytes, GuessDoubleBytePage(bytes));
+    return decoded.undecodable == 0 ? std::move(decoded.text) : FromWindows1252(bytes);
 }
 
 std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std::string& path) {

@@ -65,6 +65,7 @@ TEST(ExportedModule, IsReadInEveryForm) {
          "Form_Kunde/100 Dim a|"},
         {"Access export of a form without a module", "Kunden.form", "Version =20\nBegin Form\nEnd\n", "none"},
         {"Windows-1252", "m.bas", "Dim \xFC\x80", "m/1 Dim ü€|"},
+        {"Japanese", "m.bas", "Dim \x83{\x83^\x83\x93", "m/1 Dim ボタン|"},
         {"UTF-8 without a mark", "m.bas", "Dim ü", "m/1 Dim ü|"},
         {"UTF-8 with a mark", "m.bas",
          "\xEF\xBB\xBF"
