@@ -50,6 +50,13 @@ bool IsJapaneseSign(unsigned char lead, unsigned char trail) {
     }
 }
 
+// Without the places for characters of one's own: there lie the "ö" and the "ü" of Windows-1252.
+bool IsJapanesePair(unsigned char lead, unsigned char trail) {
+    if (lead == 0xFC) return IsIn(trail, 0x40, 0x4B);
+    const bool isLead = IsIn(lead, 0x81, 0x9F) || IsIn(lead, 0xE0, 0xEF) || IsIn(lead, 0xFA, 0xFB);
+    return isLead && (IsIn(trail, 0x40, 0x7E) || IsIn(trail, 0x80, 0xFC));
+}
+
 bool IsJapanese(const Bytes& bytes) {
     bool hasSign = false;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -57,9 +64,7 @@ bool IsJapanese(const Bytes& bytes) {
         if (isAlone) continue;
         const unsigned char lead = bytes[i];
         const unsigned char trail = bytes[++i];
-        const bool isPair =
-            (IsIn(lead, 0x81, 0x9F) || IsIn(lead, 0xE0, 0xFC)) && (IsIn(trail, 0x40, 0x7E) || IsIn(trail, 0x80, 0xFC));
-        if (!isPair) return false;
+        if (!IsJapanesePair(lead, trail)) return false;
         hasSign = hasSign || IsJapaneseSign(lead, trail);
     }
     return hasSign;

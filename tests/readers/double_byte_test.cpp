@@ -39,6 +39,11 @@ constexpr Row kRows[] = {
      "Pr\xFC"
      "fen(f\xFCr)",
      0},
+    {"German with a bullet",
+     "' \x95\xDC"
+     "bersicht, gr\xF6\xDF"
+     "er",
+     0},
     {"English with apostrophes", "' it\x92s, don\x92t", 0},
     {"degrees and micrometres",
      "' \xB0"
