@@ -31,6 +31,15 @@ bool IsAccessExport(TextView text) {
     return start.starts_with(u"Version =") || start.starts_with(u"Version=");
 }
 
+// A query, which some tools write into a .bas file as well: `Operation =1`, or its first property, `dbMemo "SQL" =`.
+bool IsAccessQuery(TextView text) {
+    const TextView start = LTrim(text.substr(0, text.find_first_of(u"\r\n")));
+    if (start.starts_with(u"Operation =")) return true;
+    const TextView word = start.substr(0, std::min(start.find(u' '), start.size()));
+    return word.starts_with(u"db") && start.substr(word.size()).starts_with(u" \"") &&
+           start.find(u"\" =") != start.npos;
+}
+
 // An Access export holds the layout of a form or report first, and its code behind a line of its own.
 struct AccessExport {
     bool report = false;
@@ -114,6 +123,7 @@ std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std
              "document or an Access database.",
              {path});
     }
+    if (IsAccessQuery(text)) return std::nullopt;
     const std::string ending = LowerCaseEnding(path);
     std::optional<AccessExport> access;
     if (IsAccessExport(text)) access = FindCodeBehind(text, ending == ".report");

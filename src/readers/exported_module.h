@@ -19,10 +19,10 @@ bool IsExportedModule(std::string_view path, std::string_view firstBytes);
 Text DecodeModuleText(std::string_view bytes);
 
 /// The module that `bytes` hold, or nothing for an Access text export without code: a form or report without a module,
-/// a macro. Its type follows from the ending and the attributes, its name is `VB_Name`, else the stem of `path`; for an
-/// Access text export, whose file is called like the form or report, with `Form_` or `Report_` in front of it.
-/// Throws `ReadError`: `NotADocument` for bytes that are no text, `Damaged` for an Access export that breaks off in
-/// front of its code.
+/// a macro, a query. Its type follows from the ending and the attributes, its name is `VB_Name`, else the stem of
+/// `path`; for an Access text export, whose file is called like the form or report, with `Form_` or `Report_` in front
+/// of it. Throws `ReadError`: `NotADocument` for bytes that are no text, `Damaged` for an Access export that breaks off
+/// in front of its code.
 std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std::string& path);
 
 /// The file's name in `path` without folder and without its last ending.
