@@ -47,6 +47,11 @@ void BlockStack::Close() {
     if (block.mayStayOpen) ++spareEnds_;
 }
 
+bool BlockStack::DropEnded() {
+    const bool hasEnded = blocks_.back().kind == BlockKind::If && !blocks_.back().mayStayOpen && spareEnds_ > 0;
+    return hasEnded && Drop();
+}
+
 const Token* BlockStack::CloseAll() {
     const Token* notClosed = nullptr;
     while (!blocks_.empty()) {

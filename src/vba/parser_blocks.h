@@ -38,6 +38,8 @@ class BlockStack {
     Search Find(BlockKind kind);
     /// Closes the innermost block, which has just been found.
     void Close();
+    /// Drops the innermost block if it is an `If` whose `End If` went to a block that needs none. False if it is not.
+    bool DropEnded();
     /// Drops everything. The answer names the innermost block that should have been closed.
     const Token* CloseAll();
     /// True if a closing word without its block is the consequence of something noted before.

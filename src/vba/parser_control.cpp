@@ -65,7 +65,9 @@ bool StatementParser::ParseElse() {
 // Steps over `word` and makes the `If` that it belongs to the innermost block.
 bool StatementParser::EnterElse(const Token& word) {
     Advance();
-    const BlockStack::Search search = blocks_.Find(BlockKind::If);
+    BlockStack::Search search = blocks_.Find(BlockKind::If);
+    // An `If` that had its `Else` may have had its end as well, if an `End If` went to a single line within it.
+    while (search.isFound && blocks_.Innermost()->hasElse && blocks_.DropEnded()) search = blocks_.Find(BlockKind::If);
     if (!search.isFound) {
         const bool isConsequence = isBlocksBroken_;
         isBlocksBroken_ = true;

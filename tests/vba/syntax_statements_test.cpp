@@ -35,6 +35,8 @@ constexpr Row kIf[] = {
     {"colon behind Then begins a single line", u"If x Then: y = 1"},
     {"colon behind Then, closed on the line", u"If x Then: y = 1: End If"},
     {"single line with a colon inside of a block", u"If x Then\nIf y Then: z = 1\nEnd If"},
+    {"ElseIf and Else behind an If whose Else holds a single line with a colon",
+     u"If x Then\nIf y Then\nA\nElse\nIf z Then: B\nEnd If\nElseIf u Then\nC\nElse\nD\nEnd If"},
     {"colons up to End If, in three branches", u"If x Then: A: ElseIf y Then: B: Else: C: End If"},
     {"comment behind Then", u"If x Then ' why\ny = 1\nEnd If"},
     {"statements behind ElseIf and Else", u"If x Then\nA\nElseIf y Then B\nElseIf z Then: C\nElse D\nEnd If"},
