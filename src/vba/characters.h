@@ -11,7 +11,7 @@
 namespace zentlor::vba {
 
 enum CharacterTrait : std::uint8_t {
-    kBlank = 1,      ///< Blank, tab, and the carriage return of a foreign line end; never the line feed.
+    kBlank = 1,      ///< Blank, tab, carriage return of a foreign line end, DOS end mark; never the line feed.
     kNameStart = 2,  ///< A letter.
     kNamePart = 4,   ///< A letter, a digit or "_".
     kDigit = 8,
@@ -21,7 +21,7 @@ enum CharacterTrait : std::uint8_t {
 
 constexpr std::array<std::uint8_t, 128> MakeCharacterTable() {
     std::array<std::uint8_t, 128> table{};
-    for (char16_t blank : {u' ', u'\t', u'\r', u'\v', u'\f'}) table[blank] = kBlank;
+    for (char16_t blank : {u' ', u'\t', u'\r', u'\v', u'\f', u'\x1A'}) table[blank] = kBlank;
     for (char16_t c = u'0'; c <= u'9'; ++c) table[c] = kNamePart | kDigit | kHexDigit;
     for (char16_t c = u'a'; c <= u'z'; ++c) {
         const std::uint8_t hex = c <= u'f' ? kHexDigit : 0;

@@ -158,6 +158,8 @@ class ConditionReader {
         Advance();
         switch (token.kind) {
             case TokenKind::Name:
+                // `CBool(Mac)`: of the functions that may stand here most give back what they get.
+                if (token_->Is(Operator::OpenParenthesis)) return ReadOperand();
                 return constants_.ValueOf(NameOf(token, text_));
             case TokenKind::Keyword:
                 if (token.Is(Keyword::Not)) return Number(static_cast<double>(~Whole(Read(kNotRank).number)));

@@ -77,6 +77,8 @@ constexpr Module kBranches[] = {
     {"nested, decided by a constant of the module",
      u"#Const Stufe = 2\n#If Stufe > 1 And Not Mac Then\n#If Win64 Then\nSub A()\n#Else\nSub A(\n#End If\n"
      u"#ElseIf Stufe = 1 Then\nSub A(x\n#Else\nSub A(y\n#End If\nEnd Sub\n"},
+    {"a function around a constant",
+     u"#If CBool(VBA7) And Not CBool(Mac) Then\nSub A()\n#Else\nSub (\n#End If\nEnd Sub\n"},
     {"constant of text",
      u"#Const L = \"de\"\n#If L = \"en\" Then\nSub (\n#ElseIf L = \"de\" Then\nSub A()\n#End If\nEnd Sub\n"},
     {"arithmetic",

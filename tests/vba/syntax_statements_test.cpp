@@ -175,6 +175,7 @@ constexpr Row kDeclarations[] = {
 };
 
 constexpr Row kComments[] = {
+    {"the end mark of DOS", u"x = 1\x1A"},
     {"Rem behind a colon", u"x = 1: Rem then\nRem so"},
     {"continued comment", u"' one _\ntwo \" three\nx = 1 ' four _\nfive"},
 };
