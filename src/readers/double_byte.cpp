@@ -31,8 +31,16 @@ bool IsOddAscii(unsigned char byte) {
     return IsIn(byte, 0x5B, 0x5E) || byte == 0x60 || IsIn(byte, 0x7B, 0x7E);
 }
 
+// Neither a letter of Western Europe nor one of the quotation marks, dashes and points that stand next to each other.
+bool IsOddUpper(unsigned char byte) {
+    const bool isMark = byte == 0x82 || byte == 0x84 || byte == 0x85 || byte == 0x8B || IsIn(byte, 0x91, 0x97) ||
+                        byte == 0x9B || byte == 0xA0 || byte == 0xAB || byte == 0xBB || byte == 0xBF;
+    return IsIn(byte, 0x80, 0xBE) && !isMark;
+}
+
 // Bytes that Windows-1252 does not assign, pairs that are kana or full-width letters, and kanji for which Windows-1252
-// has a dash, a quotation mark or a rare letter and next to it something that does not go with it.
+// has a dash, a quotation mark or a rare letter and next to it something that does not go with it: no letter, as the
+// French have it in "l’été".
 bool IsJapaneseSign(unsigned char lead, unsigned char trail) {
     switch (lead) {
         case 0x81:
@@ -46,7 +54,7 @@ bool IsJapaneseSign(unsigned char lead, unsigned char trail) {
         case 0x83:
             return IsIn(trail, 0x40, 0x96);
         default:
-            return IsIn(lead, 0x88, 0x9F) && (IsOddAscii(trail) || trail >= 0x80);
+            return IsIn(lead, 0x88, 0x9F) && (IsOddAscii(trail) || IsOddUpper(trail));
     }
 }
 

@@ -50,6 +50,11 @@ constexpr Row kRows[] = {
      "C \xB5m \xB0"
      "C \xB5m",
      0},
+    {"French with a round apostrophe",
+     "' l\x92\xE9tat d\x92\xE9"
+     "mission",
+     0},
+    {"Portuguese with round quotation marks", "' \x93n\xE3o\x94\x85", 0},
     {"Spanish",
      "Dim a\xF1o, contrase\xF1"
      "a",
