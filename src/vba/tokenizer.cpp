@@ -6,79 +6,13 @@
 
 #include "vba/tokenizer.h"
 
-#include <array>
-
 #include "core/utilities/character_blocks.h"
 #include "vba/characters.h"
 #include "vba/date_literal.h"
+#include "vba/token_start.h"
 
 namespace zentlor::vba {
 namespace {
-
-// What begins with a character.
-enum class Start : std::uint8_t {
-    Unknown,
-    Blank,
-    LineEnd,
-    Word,
-    Number,
-    String,
-    Comment,
-    Underscore,
-    Bracket,
-    Hash,
-    Ampersand,
-    Dot,
-    Pair,    // an operator that may have a second character
-    Single,  // any other operator
-};
-
-struct StartEntry {
-    Start start = Start::Unknown;
-    Operator single = Operator::None;
-};
-
-constexpr std::array<StartEntry, 128> MakeStarts() {
-    std::array<StartEntry, 128> table{};
-    for (std::size_t c = 0; c < table.size(); ++c) {
-        if ((kCharacterTable[c] & kBlank) != 0) table[c].start = Start::Blank;
-        if ((kCharacterTable[c] & kNameStart) != 0) table[c].start = Start::Word;
-        if ((kCharacterTable[c] & kDigit) != 0) table[c].start = Start::Number;
-    }
-    table[u'\n'].start = Start::LineEnd;
-    table[u'"'].start = Start::String;
-    table[u'\''].start = Start::Comment;
-    table[u'_'].start = Start::Underscore;
-    table[u'['].start = Start::Bracket;
-    table[u'#'].start = Start::Hash;
-    table[u'&'].start = Start::Ampersand;
-    table[u'.'].start = Start::Dot;
-    table[u':'] = {Start::Pair, Operator::Colon};
-    table[u'='] = {Start::Pair, Operator::Equal};
-    table[u'<'] = {Start::Pair, Operator::Less};
-    table[u'>'] = {Start::Pair, Operator::Greater};
-    table[u'+'] = {Start::Single, Operator::Plus};
-    table[u'-'] = {Start::Single, Operator::Minus};
-    table[u'*'] = {Start::Single, Operator::Times};
-    table[u'/'] = {Start::Single, Operator::Divide};
-    table[u'\\'] = {Start::Single, Operator::IntegerDivide};
-    table[u'^'] = {Start::Single, Operator::Power};
-    table[u','] = {Start::Single, Operator::Comma};
-    table[u';'] = {Start::Single, Operator::Semicolon};
-    table[u'!'] = {Start::Single, Operator::Bang};
-    table[u'('] = {Start::Single, Operator::OpenParenthesis};
-    table[u')'] = {Start::Single, Operator::CloseParenthesis};
-    table[u'?'] = {Start::Single, Operator::Question};
-    return table;
-}
-constexpr std::array<StartEntry, 128> kStarts = MakeStarts();
-
-// Letters outside of ASCII, the only characters there that have traits once their width is folded, begin words.
-StartEntry StartOf(char16_t c) {
-    const char16_t folded = FoldWidth(c);
-    if (folded < 128) return kStarts[folded];
-    return {HasTrait(folded, kNameStart) ? Start::Word : Start::Unknown, Operator::None};
-}
 
 class Scanner {
   public:
