@@ -14,8 +14,8 @@ namespace zentlor::readers {
 /// first bytes, for Access text exports under .txt, .form and .report.
 bool IsExportedModule(std::string_view path, std::string_view firstBytes);
 
-/// The text of a file: UTF-16 and UTF-8 by byte-order mark, else strict UTF-8, else a double-byte code page of East Asia
-/// where there is every sign of it, else Windows-1252.
+/// The text of a file: UTF-16 and UTF-8 by byte-order mark, else strict UTF-8, else a double-byte code page of East
+/// Asia where there is every sign of it, else Windows-1252.
 Text DecodeModuleText(std::string_view bytes);
 
 /// The module that `bytes` hold, or nothing for an Access text export without code: a form or report without a module,
