@@ -143,10 +143,11 @@ void CodeTabs::Mark(const Pane& pane) const {
     std::map<int, QString> marks;
     const bool mayHaveHints = hints_ != nullptr && pane.shown != nullptr && &pane.shown->Project() == hintsProject_;
     if (mayHaveHints) {
-        const Hint* last = nullptr;
+        Hint last;
         for (const Hint& hint : hints_->Emitted()) {
-            const bool isRepeated = std::exchange(last, &hint) == &hint;  // one line may hold a thing a thousand times
-            if (isRepeated || hint.strNameVBC != pane.component) continue;
+            if (hint.strNameVBC != pane.component || hint == last)
+                continue;  // a line may hold a thing a thousand times
+            last = hint;
             QString& text = marks[std::max(hint.lngZeile, 1)];
             if (!text.isEmpty()) text += u'\n';
             text += ToQString(hint.strHinweis);

@@ -10,7 +10,7 @@
 namespace zentlor {
 
 /// Takes one hint into the list of `session` and advances its counters.
-void ErgebnisAnzeige(Session& session, Hint hint);
+void ErgebnisAnzeige(Session& session, const Hint& hint);
 
 /// Where the hints of one check on one component go.
 class Hints {

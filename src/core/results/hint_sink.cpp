@@ -6,22 +6,21 @@ namespace zentlor {
 
 namespace {
 
-void ErgebnisAnzeigeAddIn(Session& session, Hint&& hint) {
+void ErgebnisAnzeigeAddIn(Session& session, const Hint& hint) {
     Frame(session, {u"docAddIn", u"ErgebnisAnzeigeAddIn"}, [&] {
         if (hint.strNameVBC != session.strLetztesObjekt) {
             session.strLetztesObjekt = hint.strNameVBC;
             ++session.lngAnzahlObjekte;
         }
         ++session.lngAnzahlHinweise;
-        session.lvwErgebnis.Add(std::move(hint));
+        session.lvwErgebnis.Add(hint);
     });
 }
 
 }  // namespace
 
-void ErgebnisAnzeige(Session& session, Hint hint) {
-    Frame(session, {u"mdl_ErgebnisAnzeige", u"ErgebnisAnzeige"},
-          [&] { ErgebnisAnzeigeAddIn(session, std::move(hint)); });
+void ErgebnisAnzeige(Session& session, const Hint& hint) {
+    Frame(session, {u"mdl_ErgebnisAnzeige", u"ErgebnisAnzeige"}, [&] { ErgebnisAnzeigeAddIn(session, hint); });
 }
 
 }  // namespace zentlor

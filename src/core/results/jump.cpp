@@ -16,7 +16,7 @@ constexpr int kBehindEveryColumn = 1024;
 void lvwErgebnis_DblClick(Session& session, std::size_t row) {
     Frame(session, {u"docAddIn", u"lvwErgebnis_DblClick"}, [&] {
         if (row >= session.lvwErgebnis.Count()) throw ObjectNotSet();
-        const Hint& hint = session.lvwErgebnis.Row(row);
+        const Hint hint = session.lvwErgebnis.Row(row);
         const int line = hint.lngZeile == 0 ? 1 : hint.lngZeile;
         Editor& editor = session.host().editor;
         if (hint.strNameVBC == session.GetResourceString(170)) {

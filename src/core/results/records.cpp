@@ -37,8 +37,10 @@ void ForEachRecord(Session& session, RecordForm form, const std::function<void(T
         AppendCsv(words.modul, words.prozedur, words.hinweis, words.zeile, text);
         take(text);
     }
-    for (std::size_t row = 0; row < session.lvwErgebnis.Count(); ++row) {
-        const Hint& hint = session.lvwErgebnis.Row(row);
+    HintSequence::Iterator place = session.lvwErgebnis.Emitted().begin();
+    for (const std::uint32_t number : session.lvwErgebnis.Order()) {
+        place.GoTo(number);
+        const Hint& hint = *place;
         text.clear();
         if (form == RecordForm::Csv) {
             AppendCsv(hint.strNameVBC, hint.strProzedur, hint.strHinweis, ToText(hint.lngZeile), text);

@@ -35,7 +35,6 @@ class Collation {
 }  // namespace
 
 int CompareCells(TextView a, TextView b) {
-    if (a.data() == b.data() && a.size() == b.size()) return 0;  // rows share the texts that they have in common
     Collation left(a);
     Collation right(b);
     for (;;) {
@@ -54,11 +53,11 @@ Text SortText(int lngZeile) {
 Text CellText(const Hint& hint, int column) {
     switch (column) {
         case 1:
-            return Text(TextView(hint.strNameVBC));
+            return hint.strNameVBC;
         case 2:
-            return Text(TextView(hint.strProzedur));
+            return hint.strProzedur;
         case 3:
-            return Text(TextView(hint.strHinweis));
+            return hint.strHinweis;
         case 4:
             return ToText(hint.lngZeile);
         default:
@@ -66,56 +65,31 @@ Text CellText(const Hint& hint, int column) {
     }
 }
 
-const Hint& HintSequence::operator[](std::size_t index) const {
-    while (runOf_.size() <= index) {
-        std::uint32_t run = runOf_.empty() ? 0 : runOf_.back();
-        if (runs_[run].end == runOf_.size()) ++run;
-        runOf_.push_back(run);
-    }
-    return runs_[runOf_[index]].hint;
-}
-
-void HintSequence::Clear() {
-    runs_.clear();
-    runOf_.clear();
-}
-
-void HintSequence::Add(Hint hint) {
-    if (!runs_.empty()) {
-        Run& last = runs_.back();
-        hint.strNameVBC.ShareWith(last.hint.strNameVBC);
-        hint.strProzedur.ShareWith(last.hint.strProzedur);
-        hint.strHinweis.ShareWith(last.hint.strHinweis);
-        if (hint == last.hint) {
-            ++last.end;
-            return;
-        }
-    }
-    runs_.push_back({std::move(hint), static_cast<std::uint32_t>(size()) + 1});
-}
-
-void ResultList::Add(Hint hint) {
-    hints_.Add(std::move(hint));
-}
-
 void ResultList::Clear() {
     hints_.Clear();
-    order_.clear();
+    ForgetOrder();
 }
 
-bool ResultList::InFront(std::size_t a, std::size_t b) const {
-    const Hint& x = hints_[ascending_ ? a : b];
-    const Hint& y = hints_[ascending_ ? b : a];
-    switch (sortKey_) {
-        case 0:
-            return CompareCells(x.strNameVBC, y.strNameVBC) < 0;
-        case 1:
-            return CompareCells(x.strProzedur, y.strProzedur) < 0;
-        case 2:
-            return CompareCells(x.strHinweis, y.strHinweis) < 0;
-        default:
-            return SortText(x.lngZeile) < SortText(y.lngZeile);
+void ResultList::ForgetOrder() {
+    order_.clear();
+    cellOf_.clear();
+    cells_.clear();
+}
+
+void ResultList::ReadCells() const {
+    if (cellOf_.size() == hints_.size()) return;
+    HintSequence::Iterator hint = hints_.At(cellOf_.size());
+    for (; hint != hints_.end(); ++hint) {
+        Text cell = CellText(*hint, sortKey_ + 1);
+        if (cells_.empty() || cells_.back() != cell) cells_.push_back(std::move(cell));
+        cellOf_.push_back(static_cast<std::uint32_t>(cells_.size() - 1));
     }
+}
+
+bool ResultList::InFront(std::uint32_t a, std::uint32_t b) const {
+    const std::uint32_t x = cellOf_[ascending_ ? a : b];
+    const std::uint32_t y = cellOf_[ascending_ ? b : a];
+    return x != y && CompareCells(cells_[x], cells_[y]) < 0;
 }
 
 // Rows behind `sorted` are new: they are sorted by themselves and merged in, so that a list that grows during a run is
@@ -130,6 +104,7 @@ void ResultList::Sort(std::size_t sorted) const {
 const std::vector<std::uint32_t>& ResultList::Order() const {
     const std::size_t sorted = order_.size();
     if (sorted == hints_.size()) return order_;
+    ReadCells();
     order_.resize(hints_.size());
     std::iota(order_.begin() + static_cast<std::ptrdiff_t>(sorted), order_.end(), static_cast<std::uint32_t>(sorted));
     Sort(sorted);
@@ -140,7 +115,7 @@ void ResultList::lvwErgebnis_ColumnClick(int column) {
     const int key = column == kVisibleColumns ? kSortLine : column - 1;
     ascending_ = key != sortKey_ || !ascending_;
     sortKey_ = key;
-    order_.clear();
+    ForgetOrder();
 }
 
 }  // namespace zentlor
