@@ -27,7 +27,9 @@ class Compiler {
         for (std::size_t i = 0; i < modules_.size(); ++i) {
             if (!canonicaliser_.MayChange(i)) continue;
             ReadTokens(i);
-            if (Rewrite(i)) ReadWords(i);
+            result_.wordPlaces[i] = {};
+            Rewrite(i);
+            ReadWords(i);
         }
         return std::move(result_);
     }
@@ -56,14 +58,13 @@ class Compiler {
         }
     }
 
-    bool Rewrite(std::size_t i) {
+    void Rewrite(std::size_t i) {
         const Stopwatch watch(times_, &StageTimes::canonical);
         Text& code = modules_[i].code;
         Text canonical;
-        if (!canonicaliser_.Write(tokens_, code, canonical)) return false;
+        if (!canonicaliser_.Write(tokens_, code, canonical)) return;
         if (keepRawCode_) result_.rawCode[i] = std::move(code);
         code = std::move(canonical);
-        return true;
     }
 
     std::vector<readers::SourceModule>& modules_;

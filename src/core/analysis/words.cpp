@@ -1,5 +1,5 @@
-// A word is found by its first sixteen characters, which fit into two numbers since each of them has one byte; only
-// longer words are compared character by character.
+// The characters of a word have one byte each, so that those of nearly every word fit into two numbers; only longer
+// words are compared character by character.
 
 #include "core/analysis/words.h"
 
@@ -124,6 +124,12 @@ void ForEachWord(TextView text, Visit visit) {
     visitStretch(rest, i);
 }
 
+std::size_t CountWords(TextView text) {
+    std::size_t count = 0;
+    ForEachWord(text, [&](std::uint32_t, std::uint32_t) { ++count; });
+    return count;
+}
+
 }  // namespace
 
 WordTable::Key WordTable::KeyOf(TextView word) {
@@ -136,49 +142,56 @@ WordTable::Key WordTable::KeyOf(TextView word) {
     return key;
 }
 
-inline std::size_t WordTable::HashOf(Key key, TextView word) {
+inline std::uint32_t WordTable::HashOf(Key key, TextView word) {
     constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
     std::uint64_t hash = key.low * kMultiplier;
     hash = (hash ^ (hash >> 32) ^ key.high) * kMultiplier;
     for (std::size_t i = kPacked; i < word.size(); ++i) hash = (hash ^ word[i]) * kMultiplier;
-    return hash >> 32;
+    return static_cast<std::uint32_t>(hash >> 32);
 }
 
 // No character of a word is 0: shorter words of different length differ in their keys.
-inline bool WordTable::Holds(const Slot& slot, Key key, TextView word) const {
-    if (slot.key.low != key.low || slot.key.high != key.high) return false;
-    return word.size() < kPacked || IsSame(longWords_[slot.longWord], word);
+inline bool WordTable::Holds(Slot slot, std::uint32_t hash, Key key, TextView word) const {
+    if (slot.hash != hash) return false;
+    const Key& known = keys_[slot.number];
+    if (word.size() < kPacked) return known == key;
+    return known.high == kLong && IsSame(longWords_[known.low], word);
 }
 
 // The slot of the word, or the free one where it belongs.
-inline std::size_t WordTable::SlotOf(Key key, TextView word) const {
+inline std::size_t WordTable::SlotOf(std::uint32_t hash, Key key, TextView word) const {
     const std::size_t mask = slots_.size() - 1;
-    std::size_t i = HashOf(key, word) & mask;
-    while (slots_[i].number != kNoWord && !Holds(slots_[i], key, word)) i = (i + 1) & mask;
+    std::size_t i = hash & mask;
+    while (slots_[i].number != kNoWord && !Holds(slots_[i], hash, key, word)) i = (i + 1) & mask;
     return i;
 }
 
 inline std::uint32_t WordTable::NumberOf(Key key, TextView word) {
-    Slot& slot = slots_[SlotOf(key, word)];
-    return slot.number != kNoWord ? slot.number : Enter(slot, key, word);
+    const std::uint32_t hash = HashOf(key, word);
+    const std::size_t slot = SlotOf(hash, key, word);
+    const std::uint32_t number = slots_[slot].number;
+    return number != kNoWord ? number : Enter(slot, hash, key, word);
 }
 
-std::uint32_t WordTable::Enter(Slot& slot, Key key, TextView word) {
-    const std::uint32_t number = size_++;
-    slot = {key, number, static_cast<std::uint32_t>(longWords_.size())};
-    if (word.size() >= kPacked) longWords_.push_back(store_.Keep(word));
-    if (2 * std::size_t{size_} > slots_.size()) Grow();
+std::uint32_t WordTable::Enter(std::size_t slot, std::uint32_t hash, Key key, TextView word) {
+    const std::uint32_t number = Size();
+    if (word.size() >= kPacked) {
+        key = {longWords_.size(), kLong};
+        longWords_.push_back(store_.Keep(word));
+    }
+    keys_.push_back(key);
+    slots_[slot] = {hash, number};
+    if (2 * keys_.size() > slots_.size()) Grow();
     return number;
 }
 
 void WordTable::Grow() {
-    std::vector<Slot> old(4 * slots_.size());
+    std::vector<Slot> old(2 * slots_.size());
     old.swap(slots_);
     const std::size_t mask = slots_.size() - 1;
     for (const Slot& slot : old) {
         if (slot.number == kNoWord) continue;
-        const bool isLong = slot.key.high >> 56 != 0;  // the last of kPacked characters is there
-        std::size_t i = HashOf(slot.key, isLong ? longWords_[slot.longWord] : TextView()) & mask;
+        std::size_t i = slot.hash & mask;
         while (slots_[i].number != kNoWord) i = (i + 1) & mask;
         slots_[i] = slot;
     }
@@ -186,14 +199,16 @@ void WordTable::Grow() {
 
 std::uint32_t WordTable::Find(TextView word) const {
     if (word.empty() || !std::all_of(word.begin(), word.end(), IsIndexCharacter)) return kNoWord;
-    return slots_[SlotOf(KeyOf(word), word)].number;
+    const Key key = KeyOf(word);
+    return slots_[SlotOf(HashOf(key, word), key, word)].number;
 }
 
 std::vector<WordPlace> WordTable::Read(TextView text) {
-    constexpr std::size_t kCharactersPerWord = 6;
+    constexpr std::size_t kCharactersPerWord = 6;  // of the code that people write; other code is counted
     std::vector<WordPlace> places;
     places.reserve(text.size() / kCharactersPerWord);
     ForEachWord(text, [&](std::uint32_t begin, std::uint32_t end) {
+        if (places.size() == places.capacity()) places.reserve(places.size() + CountWords(text.substr(begin)));
         const TextView word = text.substr(begin, end - begin);
         Key key;
         if (begin + kPacked <= text.size()) {

@@ -41,7 +41,7 @@ class WordTable {
     WordTable() : slots_(1024) {}
 
     /// How many different words there are.
-    std::uint32_t Size() const { return size_; }
+    std::uint32_t Size() const { return static_cast<std::uint32_t>(keys_.size()); }
 
     /// The number of a word, or `kNoWord`.
     std::uint32_t Find(TextView word) const;
@@ -53,30 +53,35 @@ class WordTable {
   private:
     static constexpr std::size_t kPacked = 16;
 
-    // The first kPacked characters of a word with one byte each, the first one lowest.
+    // The characters of a word with one byte each, the first one lowest. Words of kPacked characters or more have their
+    // place in `longWords_` and kLong.
     struct Key {
         std::uint64_t low = 0;
         std::uint64_t high = 0;
+
+        friend bool operator==(const Key&, const Key&) = default;
     };
+    // Small, so that the slots of many words stay near. A hash that fits leads to the key.
     struct Slot {
-        Key key;
+        std::uint32_t hash = 0;
         std::uint32_t number = kNoWord;
-        std::uint32_t longWord = 0;  ///< the place in longWords_ if the word has kPacked characters or more
     };
+
+    static constexpr std::uint64_t kLong = ~std::uint64_t{0};  // no character of a word is 255
 
     static Key KeyOf(TextView word);
-    static std::size_t HashOf(Key key, TextView word);
-    bool Holds(const Slot& slot, Key key, TextView word) const;
-    std::size_t SlotOf(Key key, TextView word) const;
+    static std::uint32_t HashOf(Key key, TextView word);
+    bool Holds(Slot slot, std::uint32_t hash, Key key, TextView word) const;
+    std::size_t SlotOf(std::uint32_t hash, Key key, TextView word) const;
 
     std::uint32_t NumberOf(Key key, TextView word);
-    std::uint32_t Enter(Slot& slot, Key key, TextView word);
+    std::uint32_t Enter(std::size_t slot, std::uint32_t hash, Key key, TextView word);
     void Grow();
 
     std::vector<Slot> slots_;  // open addressing, a power of two
+    std::vector<Key> keys_;    // by number
     std::vector<TextView> longWords_;
-    std::uint32_t size_ = 0;
-    TextStore store_;
+    TextStore store_;  // of the long words
 };
 
 }  // namespace zentlor
