@@ -117,7 +117,7 @@ class CommandLine {
              "unpacked size of one part of a zip; if not given, at most 16 MB plus four times the file");
         size("--max-module-size", limits.moduleBytes, "text of one module");
         size("--max-source-size", limits.sourceBytes,
-             "text of all modules of one document; if not given, at most 4 MB plus twice the file");
+             "text of all modules of one document; if not given, at most 1 MB plus four times the file");
         const auto count = [&](const char* option, auto& value, const char* what) {
             sub->add_option(option, value, what)->capture_default_str()->group(kGroup);
         };

@@ -10,8 +10,9 @@ Limits Limits::InProportionTo(std::uint64_t file) const {
     const auto bound = [&](std::uint64_t& bytes, std::uint64_t byDefault, std::uint64_t part, std::uint64_t times) {
         if (bytes == byDefault) bytes = std::min(bytes, bytes / part + times * file);
     };
-    // Modules are stored at a half to a quarter of their size, beside their compiled form, which is larger.
-    bound(limits.sourceBytes, defaults.sourceBytes, 64, 2);
+    // Modules are stored at a half to a quarter of their size, mostly beside their compiled form, which is larger. What
+    // is taken in grows thirtyfold at worst while it is checked.
+    bound(limits.sourceBytes, defaults.sourceBytes, 256, 4);
     bound(limits.zipPartBytes, defaults.zipPartBytes, 16, 4);
     return limits;
 }

@@ -191,8 +191,8 @@ TEST(HostileDatabase, EndsSoonWithTenThousandModules) {
 
 TEST(HostileDatabase, BoundsItsSourceInProportionToItsSize) {
     TestProject project;
-    project.modules = {StandardModule(u"A", std::string(3 << 20, '\'')),
-                       StandardModule(u"B", std::string(3 << 20, 'b'))};
+    project.modules = {StandardModule(u"A", std::string(1 << 20, '\'')),
+                       StandardModule(u"B", std::string(1 << 20, 'b'))};
     const std::string bytes = WriteAccessStorage(WriteAccessTree(project), {}).bytes;
     const Document bounded = ReadAccessDatabase(bytes, "x", {});
     EXPECT_EQ(bounded.modules.size(), 1u);
