@@ -1,4 +1,4 @@
-// The text is walked once, physical line by physical line. Only where a logical line begins can a line be an
+// The text is walked once, physical line by physical line, and its code is left behind in its own place. Only where a logical line begins can a line be an
 // `Attribute` line; its continuations share its fate. In front of the code an exported module may hold a header, of
 // which the nesting of BEGIN and END tells where it stops.
 
@@ -45,6 +45,8 @@ struct Attribute {
 
 // Nearly every line is told by its first letter.
 bool MayBeAttribute(TextView line) {
+    if (line.empty()) return false;
+    if (!IsBlank(line.front())) return (line.front() | 0x20) == u'a';
     std::size_t first = SkipSpaces(line, 0);
     while (first < line.size() && IsBlank(line[first])) ++first;
     return first < line.size() && (line[first] | 0x20) == u'a';
@@ -134,10 +136,12 @@ void AddLine(TextView line, Text& out) {
 
 }  // namespace
 
-StrippedCode StripAttributes(TextView text) {
+StrippedCode StripAttributes(Text text) {
     StrippedCode result;
-    result.code.reserve(text.size());
     const std::size_t headerLines = CountHeaderLines(text);
+    // The code moves together in the place of the text, every line at most to where it stands.
+    if (!text.empty() && text.back() != u'\n' && text.back() != u'\r') text.push_back(u'\n');
+    char16_t* behindCode = text.data();
     LineReader lines(text);
     TextView line;
     bool inside = false, hiding = false;
@@ -164,9 +168,12 @@ StrippedCode StripAttributes(TextView text) {
             }
             continue;
         }
-        AddLine(line, result.code);
+        behindCode = std::copy(line.begin(), line.end(), behindCode);
+        *behindCode++ = u'\n';
         result.fileLines.Add(number);
     }
+    text.resize(static_cast<std::size_t>(behindCode - text.data()));
+    result.code = std::move(text);
     return result;
 }
 

@@ -38,6 +38,6 @@ struct StrippedCode {
 /// Takes `text` apart. Its lines end in CR LF, LF or CR. An `Attribute` line is a logical line (a " _" at its end
 /// continues it) whose first word is `Attribute`, followed by a name that is or ends in `VB_…` and "=". Strings and
 /// comments that hold such words, and lines that continue another statement, stay.
-StrippedCode StripAttributes(TextView text);
+StrippedCode StripAttributes(Text text);
 
 }  // namespace zentlor::readers

@@ -114,7 +114,7 @@ Text DecodeModuleText(std::string_view bytes) {
 }
 
 std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std::string& path) {
-    const Text text = DecodeModuleText(bytes);
+    Text text = DecodeModuleText(bytes);
     if (FindCharacter(text, 0, u'\0') < text.size()) {
         Fail(ReadFailure::NotADocument,
              "„[%1]“ ist kein Modul: die Datei enthält Zeichen, die in keinem Text stehen; ein exportiertes Modul, "
@@ -132,7 +132,8 @@ std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std
         Fail(ReadFailure::Damaged, "„[%1]“ bricht vor dem Code ab; das Objekt in Access noch einmal exportieren.",
              "“[%1]” breaks off in front of its code; export the object from Access once more.", {path});
     }
-    StrippedCode stripped = StripAttributes(TextView(text).substr(access ? *access->code : 0));
+    if (access) text.erase(0, *access->code);
+    StrippedCode stripped = StripAttributes(std::move(text));
 
     SourceModule module;
     module.name = std::move(stripped.name);

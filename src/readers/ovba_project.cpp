@@ -158,8 +158,7 @@ class ProjectReader {
             undecodable_ += text.undecodable;
             if (undecodableIn_.empty()) undecodableIn_ = module.name;
         }
-        StrippedCode code = StripAttributes(text.text);
-        text = {};
+        StrippedCode code = StripAttributes(std::move(text.text));
         project_.modules.push_back({module.name,
                                     TypeOf(module, code),
                                     path_,

@@ -64,8 +64,9 @@ void RequireSize(const std::string& path, std::uint64_t size, const Limits& limi
 void TouchReserved(std::string& bytes) {
 #ifdef MADV_POPULATE_WRITE
     constexpr std::size_t kPage = 4096;
+    constexpr std::size_t kLarge = 1 << 20;
+    if (bytes.capacity() < kLarge) return;
     const std::size_t skipped = -reinterpret_cast<std::uintptr_t>(bytes.data()) % kPage;
-    if (bytes.capacity() < skipped + kPage) return;
     madvise(bytes.data() + skipped, (bytes.capacity() - skipped) / kPage * kPage, MADV_POPULATE_WRITE);
 #endif
 }
@@ -87,7 +88,8 @@ std::string ReadWholeFile(const std::string& path, const Limits& limits) {
     if (file.Descriptor() < 0 || fstat(file.Descriptor(), &status) != 0) FailByErrno(path, errno);
     RequireRegularFile(path, status);
     std::string bytes;
-    bytes.reserve(static_cast<std::size_t>(status.st_size));
+    const auto size = static_cast<std::size_t>(status.st_size);
+    bytes.reserve(size);
     TouchReserved(bytes);
     char buffer[65536];
     for (;;) {
@@ -97,6 +99,7 @@ std::string ReadWholeFile(const std::string& path, const Limits& limits) {
         if (count == 0) return bytes;
         bytes.append(buffer, static_cast<std::size_t>(count));
         RequireSize(path, bytes.size(), limits);
+        if (static_cast<std::size_t>(count) < sizeof(buffer) && bytes.size() == size) return bytes;
     }
 }
 

@@ -21,13 +21,15 @@ class Scanner {
           nextWord_(words.data()),
           endOfWords_(words.data() + words.size()),
           meanings_(meanings),
-          tokens_(tokens) {}
+          tokens_(tokens) {
+        LookAtWord();
+    }
 
     void Run() {
         while (at_ < text_.size()) {
             if (text_[at_] == u' ') {
                 ++at_;
-            } else {
+            } else if (!TakeKnownWord()) {
                 ScanToken();
             }
         }
@@ -112,6 +114,35 @@ class Scanner {
         at_ = SkipSpaces(text_, at_);
     }
 
+    void LookAtWord() { wordAt_ = nextWord_ == endOfWords_ ? kNowhere : nextWord_->offset; }
+    void GoToNextWord() {
+        ++nextWord_;
+        LookAtWord();
+    }
+
+    // Most tokens are words that were met before, with nothing behind them that could belong to them. False if no such
+    // one stands here.
+    bool TakeKnownWord() {
+        while (wordAt_ < at_) GoToNextWord();
+        if (wordAt_ != at_) return false;
+        const std::uint32_t number = nextWord_->number;
+        if (number >= meanings_.size() || meanings_[number].length == 0) return false;
+        const WordMeaning word = meanings_[number];
+        const std::size_t end = at_ + word.length;
+        const char16_t behind = end < text_.size() ? text_[end] : u'\n';
+        if (behind >= 128 || (kCharacterTable[behind] & kTypeMark) != 0) return false;
+        if (previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang)) {
+            Add(TokenKind::Name, word.length, static_cast<std::uint16_t>(word.keyword), word.flags | kMember, number);
+        } else if (!word.isReserved) {
+            Add(TokenKind::Name, word.length, static_cast<std::uint16_t>(word.keyword), word.flags, number);
+        } else if (word.keyword != Keyword::Rem) {
+            Add(TokenKind::Keyword, word.length, static_cast<std::uint16_t>(word.keyword), word.flags, number);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
     void ScanWord() {
         std::uint32_t number = kNoWord;
         const WordMeaning word = MeaningHere(number);
@@ -131,8 +162,7 @@ class Scanner {
     // The word that begins here. Its number, if it has one: words with foreign letters are not in the project's table,
     // or only parts of them.
     WordMeaning MeaningHere(std::uint32_t& number) {
-        while (nextWord_ != endOfWords_ && nextWord_->offset < at_) ++nextWord_;
-        if (nextWord_ == endOfWords_ || nextWord_->offset != at_) return ReadWord();
+        if (wordAt_ != at_) return ReadWord();
         if (nextWord_->number >= meanings_.size()) meanings_.resize(2 * std::size_t{nextWord_->number} + 64);
         WordMeaning& known = meanings_[nextWord_->number];
         if (known.length == 0) {
@@ -408,9 +438,12 @@ class Scanner {
         return Operator::None;
     }
 
+    static constexpr std::size_t kNowhere = TextView::npos;
+
     TextView text_;
-    const WordPlace* nextWord_;
+    const WordPlace* nextWord_;  // the first one that does not begin in front of `at_`
     const WordPlace* endOfWords_;
+    std::size_t wordAt_ = kNowhere;  // where it begins
     std::vector<WordMeaning>& meanings_;
     Tokens& tokens_;
     std::size_t at_ = 0;

@@ -53,7 +53,7 @@ TEST(Attributes, HidesAttributeLinesAndNothingElse) {
         {"nothing at all", u"", u"", {}},
     };
     for (const Row& row : rows) {
-        const StrippedCode stripped = StripAttributes(row.text);
+        const StrippedCode stripped = StripAttributes(Text(row.text));
         EXPECT_EQ(ToUtf8(stripped.code), ToUtf8(row.code)) << row.why;
         EXPECT_EQ(MovedLines(stripped.fileLines), row.fileLines) << row.why;
     }
@@ -86,7 +86,7 @@ TEST(Attributes, HidesTheHeaderOfAnExport) {
          {4, 5, 6}},
     };
     for (const Row& row : rows) {
-        const StrippedCode stripped = StripAttributes(row.text);
+        const StrippedCode stripped = StripAttributes(Text(row.text));
         EXPECT_EQ(ToUtf8(stripped.code), ToUtf8(row.code)) << row.why;
         EXPECT_EQ(MovedLines(stripped.fileLines), row.fileLines) << row.why;
     }

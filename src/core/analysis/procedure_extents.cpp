@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <numeric>
 
 #include "core/utilities/character_blocks.h"
@@ -127,6 +128,22 @@ bool MayEndProcedure(TextView code) {
     return FoldCase(code.front()) == u'e' && code.size() > 1 && FoldCase(code[1]) == u'n';
 }
 
+// Offset of the next "End", in any case and be it a part of a word, or the text's size.
+std::size_t FindEnd(TextView text, std::size_t from) {
+    constexpr TextView kEnd = u"end";
+    std::size_t i = from;
+    for (; i + kEnd.size() - 1 + kBlock <= text.size(); i += kBlock) {
+        const char16_t* block = text.data() + i;
+        std::uint32_t places = PlacesOfLetter(kEnd[0], block) & PlacesOfLetter(kEnd[2], block + 2);
+        for (; places != 0; places &= places - 1) {
+            const std::size_t place = i + static_cast<std::size_t>(std::countr_zero(places));
+            if ((text[place + 1] | 0x20) == kEnd[1]) return place;
+        }
+    }
+    while (i < text.size() && !EqualIgnoringCase(text.substr(i, kEnd.size()), kEnd)) ++i;
+    return i;
+}
+
 // Cuts a logical line into its statements. Colons in strings and in bracketed names separate nothing, and a comment
 // ends the line, be it "'" or a "Rem" where a statement may begin.
 class StatementCutter {
@@ -211,6 +228,8 @@ class ExtentFinder {
     ModuleExtents Run() {
         const int lines = static_cast<int>(lineStarts_.size()) - 1;
         for (int first = 1; first <= lines;) {
+            if (open_) first = FindLineWithEnd(first);
+            if (first > lines) break;
             int last = first;
             while (last < lines && IsContinuedLine(Text(last, last))) ++last;
             const TextView line = Text(first, last);
@@ -227,6 +246,17 @@ class ExtentFinder {
     TextView Text(int first, int last) const {
         const std::uint32_t begin = lineStarts_[static_cast<std::size_t>(first - 1)];
         return text_.substr(begin, lineStarts_[static_cast<std::size_t>(last)] - begin - 1);
+    }
+
+    // Where the next logical line begins that holds an "End", from line `first` on, which begins one; else a line behind
+    // all. A body holds few of them, and no other line ends it.
+    int FindLineWithEnd(int first) const {
+        const std::size_t place = FindEnd(text_, lineStarts_[static_cast<std::size_t>(first - 1)]);
+        if (place == text_.size()) return static_cast<int>(lineStarts_.size());
+        int line = first;
+        while (lineStarts_[static_cast<std::size_t>(line)] <= place) ++line;
+        while (line > first && IsContinuedLine(Text(line - 1, line - 1))) --line;
+        return line;
     }
 
     // `code`: the line from its first character on that is no blank.

@@ -147,7 +147,7 @@ inline std::uint32_t WordTable::HashOf(Key key, TextView word) {
     std::uint64_t hash = key.low * kMultiplier;
     hash = (hash ^ (hash >> 32) ^ key.high) * kMultiplier;
     for (std::size_t i = kPacked; i < word.size(); ++i) hash = (hash ^ word[i]) * kMultiplier;
-    return static_cast<std::uint32_t>(hash >> 32);
+    return static_cast<std::uint32_t>(hash >> 32) | kUsed;
 }
 
 // No character of a word is 0: shorter words of different length differ in their keys.
@@ -203,21 +203,41 @@ std::uint32_t WordTable::Find(TextView word) const {
     return slots_[SlotOf(HashOf(key, word), key, word)].number;
 }
 
+// Nearly every word of a text is a short one that the table holds where its hash leads. This is the loop for these.
 std::vector<WordPlace> WordTable::Read(TextView text) {
     constexpr std::size_t kCharactersPerWord = 6;  // of the code that people write; other code is counted
     std::vector<WordPlace> places;
     places.reserve(text.size() / kCharactersPerWord);
-    ForEachWord(text, [&](std::uint32_t begin, std::uint32_t end) {
-        if (places.size() == places.capacity()) places.reserve(places.size() + CountWords(text.substr(begin)));
-        const TextView word = text.substr(begin, end - begin);
-        Key key;
-        if (begin + kPacked <= text.size()) {
-            std::tie(key.low, key.high) = Pack(word.data(), std::min(word.size(), kPacked));
-        } else {
-            key = KeyOf(word);
+    std::array<WordPlace, 512> piece;
+    std::size_t taken = 0;
+    const auto keepPiece = [&](std::size_t next) {
+        if (places.capacity() - places.size() < taken) {
+            places.reserve(places.size() + taken + CountWords(text.substr(next)));
         }
-        places.push_back({begin, NumberOf(key, word)});
+        places.insert(places.end(), piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(taken));
+        taken = 0;
+    };
+    const Slot* slots = slots_.data();
+    std::size_t mask = slots_.size() - 1;
+    const std::size_t lastBlock = std::max(text.size(), kPacked) - kPacked;
+    ForEachWord(text, [&](std::uint32_t begin, std::uint32_t end) {
+        const std::size_t length = end - begin;
+        const bool isShort = length < kPacked && begin <= lastBlock && text.size() >= kPacked;
+        Key key;
+        if (isShort) std::tie(key.low, key.high) = Pack(text.data() + begin, length);
+        const std::uint32_t hash = HashOf(key, {});
+        const Slot slot = slots[hash & mask];
+        std::uint32_t number = slot.number;
+        if (!isShort || slot.hash != hash || keys_[number] != key) {
+            const TextView word = text.substr(begin, length);
+            number = NumberOf(isShort ? key : KeyOf(word), word);
+            slots = slots_.data();
+            mask = slots_.size() - 1;
+        }
+        piece[taken++] = {begin, number};
+        if (taken == piece.size()) keepPiece(end);
     });
+    keepPiece(text.size());
     return places;
 }
 

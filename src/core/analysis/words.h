@@ -52,6 +52,7 @@ class WordTable {
 
   private:
     static constexpr std::size_t kPacked = 16;
+    static constexpr std::uint32_t kUsed = 0x80000000;  // set in every hash, so that none is that of a free slot
 
     // The characters of a word with one byte each, the first one lowest. Words of kPacked characters or more have their
     // place in `longWords_` and kLong.

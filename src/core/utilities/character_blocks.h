@@ -28,12 +28,27 @@ inline std::uint32_t PlacesOf(char16_t wanted, const char16_t* block) {
     return static_cast<std::uint32_t>(_mm_movemask_epi8(equal));
 }
 
+/// The places of the letter `wanted`, a small one of ASCII, and of its capital.
+inline std::uint32_t PlacesOfLetter(char16_t wanted, const char16_t* block) {
+    const __m128i pattern = _mm_set1_epi16(static_cast<short>(wanted));
+    const __m128i small = _mm_set1_epi16(0x20);
+    const __m128i first = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block));
+    const __m128i second = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + kBlock / 2));
+    const __m128i equal = _mm_packs_epi16(_mm_cmpeq_epi16(_mm_or_si128(first, small), pattern),
+                                          _mm_cmpeq_epi16(_mm_or_si128(second, small), pattern));
+    return static_cast<std::uint32_t>(_mm_movemask_epi8(equal));
+}
+
 #else
 
 inline std::uint32_t PlacesOf(char16_t wanted, const char16_t* block) {
     std::uint32_t places = 0;
     for (std::size_t i = 0; i < kBlock; ++i) places |= static_cast<std::uint32_t>(block[i] == wanted) << i;
     return places;
+}
+
+inline std::uint32_t PlacesOfLetter(char16_t wanted, const char16_t* block) {
+    return PlacesOf(wanted, block) | PlacesOf(static_cast<char16_t>(wanted - 0x20), block);
 }
 
 #endif
