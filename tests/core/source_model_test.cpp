@@ -148,9 +148,11 @@ class RandomText {
     explicit RandomText(unsigned seed) : random_(seed) {}
 
     Text Make(int pieces) {
-        static const std::vector<Text> kPieces = {u"a",  u"ab", u"b_1", u"Ü",    u"é", u"€",    u"§",           u" ",
-                                                  u"  ", u"\n", u"\"",  u"'",    u":", u"Rem ", u": Rem",       u"$",
-                                                  u".",  u"(",  u"_\n", u" _\n", u"x", u"Имя",  u"RaiseEvent ", u"As "};
+        static const std::vector<Text> kPieces = {u"a",  u"ab",  u"b_1",         u"Ü",    u"é",
+                                                  u"€",  u"§",   u" ",           u"  ",   u"\n",
+                                                  u"\"", u"'",   u":",           u"Rem ", u": Rem",
+                                                  u"$",  u".",   u"(",           u"_\n",  u" _\n",
+                                                  u"x",  u"Имя", u"RaiseEvent ", u"As ",  u"WortMitVielenZeichen"};
         Text text;
         for (int i = 0; i < pieces; ++i) text += kPieces[Below(kPieces.size())];
         return text;
@@ -195,6 +197,22 @@ TEST(Index, AnswersWhatAWalkOverTheTextAnswers) {
         for (const char16_t* name : {u"A", u"B", u"C"}) {
             project.Add(name, 1, random.Make(round % 3 == 0 ? 60 : 400));  // a short text is not worth an index
         }
+        for (const TextView target : {u"a ", u"ab(", u"1\"", u"b_1.", u"Ü: ", u"xé", u"aWortMitVielenZeichen "}) {
+            for (const auto& vbc : project.VBComponents()) {
+                const CodeModule& cm = vbc->CodeModule();
+                FindRange byIndex{1, static_cast<int>(random.Below(6)), -1, -1};
+                for (bool found = true; found;) {
+                    FindRange byWalk = byIndex;
+                    found = cm.FindByWalk(target, byWalk, {.matchCase = true});
+                    ASSERT_EQ(cm.Find(target, byIndex, {.matchCase = true}), found)
+                        << ToUtf8(cm.AllText()) << ToUtf8(target);
+                    if (!found) break;
+                    ASSERT_EQ(byIndex.startLine, byWalk.startLine);
+                    ASSERT_EQ(byIndex.startColumn, byWalk.startColumn);
+                    byIndex = {byWalk.startLine, byWalk.startColumn + 1, -1, -1};
+                }
+            }
+        }
         std::deque<HitFilter> filters;  // for all targets, so that questions come in any order
         for (const auto& vbc : project.VBComponents()) filters.emplace_back(vbc->CodeModule());
         for (const TextView target :
@@ -234,10 +252,13 @@ TEST(Index, HoldsManyWords) {
     for (int i = 0; i < 5000; ++i) code += u"w" + ToText(i) + u"\n";
     project.Add(u"A", 1, code);
     const VBComponent& b = project.Add(u"B", 1, u"w4999\n");
-    EXPECT_EQ(project.Words().PlacesOf(u"w0").size(), 1U);
-    ASSERT_EQ(project.Words().PlacesOf(u"w4999").size(), 2U);
-    EXPECT_EQ(project.Words().ModuleOf(project.Words().PlacesOf(u"w4999")[1]), b.Index());
-    EXPECT_EQ(project.Words().PlacesOf(u"w5000").size(), 0U);
+    const auto placesOf = [&](TextView word) {
+        return project.Words().PlacesOf(project.Words().FindLeading(word).number);
+    };
+    EXPECT_EQ(placesOf(u"w0").size(), 1U);
+    ASSERT_EQ(placesOf(u"w4999").size(), 2U);
+    EXPECT_EQ(project.Words().ModuleOf(placesOf(u"w4999")[1]), b.Index());
+    EXPECT_EQ(placesOf(u"w5000").size(), 0U);
 }
 
 }  // namespace

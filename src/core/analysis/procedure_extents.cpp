@@ -248,8 +248,8 @@ class ExtentFinder {
         return text_.substr(begin, lineStarts_[static_cast<std::size_t>(last)] - begin - 1);
     }
 
-    // Where the next logical line begins that holds an "End", from line `first` on, which begins one; else a line behind
-    // all. A body holds few of them, and no other line ends it.
+    // Where the next logical line begins that holds an "End", from line `first` on, which begins one; else a line
+    // behind all. A body holds few of them, and no other line ends it.
     int FindLineWithEnd(int first) const {
         const std::size_t place = FindEnd(text_, lineStarts_[static_cast<std::size_t>(first - 1)]);
         if (place == text_.size()) return static_cast<int>(lineStarts_.size());

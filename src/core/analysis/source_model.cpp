@@ -44,12 +44,9 @@ bool HasCase(TextView target) {
     return std::any_of(target.begin(), target.end(), [](char16_t c) { return IsWordCharacter(c); });
 }
 
-}  // namespace
+constexpr std::uint32_t kFewCharacters = 256;  // are sooner gone through than asked for
 
-TextView LeadingWord(TextView target) {
-    const auto end = std::find_if_not(target.begin(), target.end(), IsIndexCharacter);
-    return target.substr(0, static_cast<std::size_t>(end - target.begin()));
-}
+}  // namespace
 
 CodeModule::CodeModule(const VBComponent& component, Text code) : component_(component), text_(std::move(code)) {
     if (!text_.empty() && text_.back() != u'\n') text_.push_back(u'\n');
@@ -153,9 +150,7 @@ std::size_t CodeModule::SearchText(TextView target, Bounds bounds, FindFlags fla
 // lines, by going through the text.
 std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*continuesWord)(char16_t)) const {
     const TextView text(text_);
-    constexpr std::size_t kFewLines = 256;
-    const TextView anchor = LeadingWord(target);
-    if (anchor.empty() || bounds.to - bounds.from < kFewLines) {
+    if (!IsIndexCharacter(target.front()) || bounds.to - bounds.from < kFewCharacters) {
         const TextView searched = text.substr(0, bounds.to);
         for (std::size_t i = FindText(searched, bounds.from, target); i < searched.size();
              i = FindText(searched, i + 1, target)) {
@@ -163,10 +158,11 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
         }
         return kNotFound;
     }
-    const bool isOneWord = anchor.size() == target.size();
     const WordIndex& words = component_.Project().Words();
+    const LeadingWord anchor = words.FindLeading(target);
+    const bool isOneWord = anchor.length == target.size();
     const Place start = words.StartOf(component_.Index());
-    for (const Place place : words.PlacesOf(anchor, component_.Index(), bounds.from)) {
+    for (const Place place : words.PlacesOf(anchor.number, component_.Index(), bounds.from)) {
         const std::size_t offset = place - start;
         if (offset + target.size() > bounds.to) return kNotFound;
         if (!isOneWord && text[offset + target.size() - 1] != target.back()) continue;
@@ -174,6 +170,25 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
         if (StandsFree(offset, target.size(), continuesWord)) return offset;
     }
     return kNotFound;
+}
+
+// The first `length` characters of the target are those of the index, and another one follows: it can only stand where
+// a word ends.
+std::size_t CodeModule::SearchEnding(TextView target, std::size_t length, Bounds bounds) const {
+    const TextView text(text_);
+    const WordIndex& words = component_.Project().Words();
+    const Place start = words.StartOf(component_.Index());
+    std::size_t first = kNotFound;
+    for (const WordWithEnding& word : words.EndingIn(target.substr(0, length))) {
+        const std::uint32_t from = bounds.from - std::min(bounds.from, word.lead);
+        for (const Place place : words.PlacesOf(word.number, component_.Index(), from)) {
+            const std::size_t offset = place - start + word.lead;
+            if (offset + target.size() > bounds.to || offset >= first) break;
+            if (offset < bounds.from || !IsSame(text.substr(offset, target.size()), target)) continue;
+            first = offset;
+        }
+    }
+    return first;
 }
 
 bool CodeModule::Deliver(std::size_t offset, std::size_t length, FindRange& range) const {
@@ -187,7 +202,14 @@ bool CodeModule::Deliver(std::size_t offset, std::size_t length, FindRange& rang
 
 bool CodeModule::Find(TextView target, FindRange& range, FindFlags flags) const {
     if (flags.wholeWord && flags.matchCase) return FindWord(target, range, IsWordCharacter);
-    return FindByWalk(target, range, flags);
+    const auto wordEnd = std::find_if_not(target.begin(), target.end(), IsIndexCharacter);
+    Bounds bounds;
+    const bool isEnding = flags.matchCase && wordEnd != target.begin() && wordEnd != target.end();
+    if (!isEnding || !ToBounds(range, bounds) || bounds.to - bounds.from < kFewCharacters) {
+        return FindByWalk(target, range, flags);
+    }
+    const auto length = static_cast<std::size_t>(wordEnd - target.begin());
+    return Deliver(SearchEnding(target, length, bounds), target.size(), range);
 }
 
 bool CodeModule::FindWord(TextView target, FindRange& range, bool (*continuesWord)(char16_t)) const {

@@ -21,10 +21,6 @@ namespace zentlor {
 class VBComponent;
 class VBProject;
 
-/// The characters of the index at the start of `target`. In a match that stands free they are a whole word of the text:
-/// what follows them in the target ends the word, and nothing in front of the match continues it.
-TextView LeadingWord(TextView target);
-
 /// The editor's vbext_ComponentType.
 enum ComponentType {
     vbext_ct_StdModule = 1,
@@ -73,8 +69,9 @@ class CodeModule {
     const std::vector<Procedure>& Procedures() const { return extents_.procedures; }
 
     /// The first place at or behind the start at which `target` stands, whole before the end; on a hit True, and
-    /// `range` holds it. Literal; a match never spans two lines. An empty target is never found. A search for a whole
-    /// word with exact case is answered by the project's index, any other walks over the text.
+    /// `range` holds it. Literal; a match never spans two lines. An empty target is never found. A search with exact
+    /// case for a whole word, or for a word's end and what follows it, is answered by the project's index; any other
+    /// one walks over the text.
     bool Find(TextView target, FindRange& range, FindFlags flags) const;
 
     /// Find with exact case, whose hits stand free: no character beside them is one that `continuesWord`. That must
@@ -100,6 +97,7 @@ class CodeModule {
     bool ToBounds(const FindRange& range, Bounds& bounds) const;
     std::size_t SearchText(TextView target, Bounds bounds, FindFlags flags) const;
     std::size_t SearchWord(TextView target, Bounds bounds, bool (*continuesWord)(char16_t)) const;
+    std::size_t SearchEnding(TextView target, std::size_t length, Bounds bounds) const;
     bool Deliver(std::size_t offset, std::size_t length, FindRange& range) const;
     bool StandsFree(std::size_t offset, std::size_t length, bool (*continuesWord)(char16_t)) const;
     const Procedure& ProcedureNamed(TextView name, int kind) const;

@@ -33,19 +33,19 @@ WordIndex::WordIndex(const WordTable& words, std::vector<ModuleWords> modules) :
     }
 }
 
-std::span<const Place> WordIndex::PlacesOfNumber(std::uint32_t number) const {
+const std::vector<WordWithEnding>& WordIndex::EndingIn(TextView ending) const {
+    const auto known = endings_.find(ending);
+    return known != endings_.end() ? known->second : endings_.emplace(ending, words_.EndingIn(ending)).first->second;
+}
+
+std::span<const Place> WordIndex::PlacesOf(std::uint32_t number) const {
+    if (number == kNoWord) return {};
     return std::span(places_).subspan(starts_[number], starts_[number + 1] - starts_[number]);
 }
 
-std::span<const Place> WordIndex::PlacesOf(TextView word) const {
-    const std::uint32_t number = words_.Find(word);
-    return number == kNoWord ? std::span<const Place>() : PlacesOfNumber(number);
-}
-
-std::span<const Place> WordIndex::PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const {
-    const std::uint32_t number = words_.Find(word);
+std::span<const Place> WordIndex::PlacesOf(std::uint32_t number, std::size_t module, std::uint32_t fromOffset) const {
     if (number == kNoWord) return {};
-    const std::span<const Place> all = PlacesOfNumber(number);
+    const std::span<const Place> all = PlacesOf(number);
     const Place from = moduleStarts_[module] + fromOffset;
     std::uint32_t passed = passed_[number];
     const bool goesOn = passed == 0 || all[passed - 1] < from;

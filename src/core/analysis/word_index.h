@@ -4,6 +4,8 @@
 // occurrences cost, however many modules there are.
 
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <span>
 #include <vector>
 
@@ -27,14 +29,21 @@ class WordIndex {
     /// std::length_error for texts of 2^32 characters and more.
     WordIndex(const WordTable& words, std::vector<ModuleWords> modules);
 
-    /// Every place of `word`, in order of modules and of text; empty for a word that occurs nowhere or that has other
-    /// characters than those of the index.
-    std::span<const Place> PlacesOf(TextView word) const;
+    /// The characters of the index at the start of `target`. In a match that stands free they are a whole word of the
+    /// text: what follows them in the target ends the word, and nothing in front of the match continues it.
+    LeadingWord FindLeading(TextView target) const { return words_.FindLeading(target); }
 
-    /// PlacesOf(word) from an offset in the text of one module on, to the project's end. Remembers where that is: a
+    /// The words that end in `ending`, which has characters of the index only. Remembers what was asked for. Not to be
+    /// called by several threads at once.
+    const std::vector<WordWithEnding>& EndingIn(TextView ending) const;
+
+    /// Every place of the word, in order of modules and of text; empty for `kNoWord`.
+    std::span<const Place> PlacesOf(std::uint32_t number) const;
+
+    /// PlacesOf(number) from an offset in the text of one module on, to the project's end. Remembers where that is: a
     /// search that goes on from there for the same word costs next to nothing. Not to be called by several threads at
     /// once.
-    std::span<const Place> PlacesOf(TextView word, std::size_t module, std::uint32_t fromOffset) const;
+    std::span<const Place> PlacesOf(std::uint32_t number, std::size_t module, std::uint32_t fromOffset) const;
 
     /// The number of the module, counted from 0, that holds a place.
     std::size_t ModuleOf(Place place) const;
@@ -42,13 +51,12 @@ class WordIndex {
     Place StartOf(std::size_t module) const { return moduleStarts_[module]; }
 
   private:
-    std::span<const Place> PlacesOfNumber(std::uint32_t number) const;
-
     const WordTable& words_;
     mutable std::vector<std::uint32_t> passed_;  ///< by a word's number: the places that its last search left behind
     std::vector<Place> moduleStarts_;
     std::vector<std::uint32_t> starts_;  ///< by a word's number: where its places begin in places_
     std::vector<Place> places_;
+    mutable std::map<Text, std::vector<WordWithEnding>, std::less<>> endings_;
 };
 
 }  // namespace zentlor

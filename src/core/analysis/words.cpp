@@ -198,9 +198,50 @@ void WordTable::Grow() {
 }
 
 std::uint32_t WordTable::Find(TextView word) const {
-    if (word.empty() || !std::all_of(word.begin(), word.end(), IsIndexCharacter)) return kNoWord;
-    const Key key = KeyOf(word);
-    return slots_[SlotOf(HashOf(key, word), key, word)].number;
+    const LeadingWord found = FindLeading(word);
+    return found.length == word.size() ? found.number : kNoWord;
+}
+
+LeadingWord WordTable::FindLeading(TextView target) const {
+    Key key;
+    std::size_t length = 0;
+    const auto pack = [&](std::uint64_t& half, std::size_t end) {
+        for (int shift = 0; length < end && IsIndexCharacter(target[length]); shift += 8) {
+            half |= std::uint64_t{target[length++]} << shift;
+        }
+    };
+    pack(key.low, std::min(target.size(), kPacked / 2));
+    if (length == kPacked / 2) pack(key.high, std::min(target.size(), kPacked));
+    if (length == 0) return {};
+    while (length >= kPacked && length < target.size() && IsIndexCharacter(target[length])) ++length;
+    const TextView word = target.substr(0, length);
+    return {length, slots_[SlotOf(HashOf(key, word), key, word)].number};
+}
+
+Text WordTable::SpellingOf(std::uint32_t number) const {
+    const Key& key = keys_[number];
+    if (key.high == kLong) return Text(longWords_[key.low]);
+    Text word;
+    for (std::uint64_t rest = key.low; rest != 0; rest >>= 8) word += static_cast<char16_t>(rest & 0xFF);
+    for (std::uint64_t rest = key.high; rest != 0; rest >>= 8) word += static_cast<char16_t>(rest & 0xFF);
+    return word;
+}
+
+char16_t WordTable::LastCharacterOf(std::uint32_t number) const {
+    const Key& key = keys_[number];
+    if (key.high == kLong) return longWords_[key.low].back();
+    const std::uint64_t half = key.high != 0 ? key.high : key.low;
+    return static_cast<char16_t>(half >> ((std::bit_width(half) - 1) / 8 * 8));
+}
+
+std::vector<WordWithEnding> WordTable::EndingIn(TextView ending) const {
+    std::vector<WordWithEnding> words;
+    for (std::uint32_t number = 0; number < Size(); ++number) {
+        if (LastCharacterOf(number) != ending.back()) continue;
+        const Text word = SpellingOf(number);
+        if (word.ends_with(ending)) words.push_back({number, static_cast<std::uint32_t>(word.size() - ending.size())});
+    }
+    return words;
 }
 
 // Nearly every word of a text is a short one that the table holds where its hash leads. This is the loop for these.

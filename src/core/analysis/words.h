@@ -35,6 +35,18 @@ struct WordPlace {
     std::uint32_t number = 0;
 };
 
+/// A word at the start of a text, as far as it goes, and its number or `kNoWord`.
+struct LeadingWord {
+    std::size_t length = 0;  ///< 0: the text begins with no word
+    std::uint32_t number = kNoWord;
+};
+
+/// A word that ends in some letters.
+struct WordWithEnding {
+    std::uint32_t number = 0;
+    std::uint32_t lead = 0;  ///< characters in front of the ending
+};
+
 /// The different words of a project. They bear numbers from 0, in the order in which they were met; case counts.
 class WordTable {
   public:
@@ -45,6 +57,12 @@ class WordTable {
 
     /// The number of a word, or `kNoWord`.
     std::uint32_t Find(TextView word) const;
+
+    /// The word with which `target` begins.
+    LeadingWord FindLeading(TextView target) const;
+
+    /// All words that end in `ending`, which has characters of the index only. Goes through the whole table.
+    std::vector<WordWithEnding> EndingIn(TextView ending) const;
 
     /// The words of a text in order: every run of characters of the index that is as long as it can be. Words that the
     /// table does not hold yet are added. Linear in the text, which has less than 2^32 characters.
@@ -71,6 +89,8 @@ class WordTable {
     static constexpr std::uint64_t kLong = ~std::uint64_t{0};  // no character of a word is 255
 
     static Key KeyOf(TextView word);
+    Text SpellingOf(std::uint32_t number) const;
+    char16_t LastCharacterOf(std::uint32_t number) const;
     static std::uint32_t HashOf(Key key, TextView word);
     bool Holds(Slot slot, std::uint32_t hash, Key key, TextView word) const;
     std::size_t SlotOf(std::uint32_t hash, Key key, TextView word) const;

@@ -42,15 +42,15 @@ template <class UseIn>
 int SweepProject(const VBProject& project, TextView strAusdruck, UseIn useIn) {
     int result = kNotUsed;
     const auto& components = project.VBComponents();
-    const TextView anchor = LeadingWord(strAusdruck);
-    if (anchor.empty()) {
+    const WordIndex& words = project.Words();
+    const LeadingWord anchor = words.FindLeading(strAusdruck);
+    if (anchor.length == 0) {
         for (std::size_t i = 0; i < components.size() && result != kUsed; ++i) {
             result = std::max(result, useIn(*components[i]));
         }
         return result;
     }
-    const WordIndex& words = project.Words();
-    const std::span<const Place> places = words.PlacesOf(anchor);
+    const std::span<const Place> places = words.PlacesOf(anchor.number);
     for (auto place = places.begin(); place != places.end() && result != kUsed;) {
         const std::size_t module = words.ModuleOf(*place);
         result = std::max(result, useIn(*components[module]));
