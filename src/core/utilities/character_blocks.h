@@ -28,6 +28,18 @@ inline std::uint32_t PlacesOf(char16_t wanted, const char16_t* block) {
     return static_cast<std::uint32_t>(_mm_movemask_epi8(equal));
 }
 
+/// The places of `first` in the kBlock characters at `block` that have `last`, `distance` characters behind them.
+inline std::uint32_t PlacesOfPair(char16_t first, char16_t last, std::size_t distance, const char16_t* block) {
+    const __m128i firsts = _mm_set1_epi16(static_cast<short>(first));
+    const __m128i lasts = _mm_set1_epi16(static_cast<short>(last));
+    const auto look = [&](const char16_t* half) {
+        const __m128i here = _mm_loadu_si128(reinterpret_cast<const __m128i*>(half));
+        const __m128i there = _mm_loadu_si128(reinterpret_cast<const __m128i*>(half + distance));
+        return _mm_and_si128(_mm_cmpeq_epi16(here, firsts), _mm_cmpeq_epi16(there, lasts));
+    };
+    return static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_packs_epi16(look(block), look(block + kBlock / 2))));
+}
+
 /// The places of the letter `wanted`, a small one of ASCII, and of its capital.
 inline std::uint32_t PlacesOfLetter(char16_t wanted, const char16_t* block) {
     const __m128i pattern = _mm_set1_epi16(static_cast<short>(wanted));
@@ -45,6 +57,10 @@ inline std::uint32_t PlacesOf(char16_t wanted, const char16_t* block) {
     std::uint32_t places = 0;
     for (std::size_t i = 0; i < kBlock; ++i) places |= static_cast<std::uint32_t>(block[i] == wanted) << i;
     return places;
+}
+
+inline std::uint32_t PlacesOfPair(char16_t first, char16_t last, std::size_t distance, const char16_t* block) {
+    return PlacesOf(first, block) & PlacesOf(last, block + distance);
 }
 
 inline std::uint32_t PlacesOfLetter(char16_t wanted, const char16_t* block) {

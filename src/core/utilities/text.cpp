@@ -72,8 +72,7 @@ std::size_t FindText(TextView text, std::size_t from, TextView target) {
     const std::size_t last = target.size() - 1;
     std::size_t i = from;
     for (; i + last + kBlock <= text.size(); i += kBlock) {
-        const char16_t* block = text.data() + i;
-        std::uint32_t places = PlacesOf(target.front(), block) & PlacesOf(target.back(), block + last);
+        std::uint32_t places = PlacesOfPair(target.front(), target.back(), last, text.data() + i);
         for (; places != 0; places &= places - 1) {
             const std::size_t place = i + static_cast<std::size_t>(std::countr_zero(places));
             if (IsSame(text.substr(place, target.size()), target)) return place;
