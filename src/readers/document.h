@@ -63,6 +63,7 @@ struct Sentence {
 /// Everything that was read from one document (or from one folder of exported modules).
 struct Document {
     std::string path;
+    std::uint64_t fileBytes = 0;  ///< size of its file
     /// The project's own name (`PROJECT` stream, `dir`), or the file's stem.
     Text projectName;
     /// What the file is, for a person: "Excel workbook (Office Open XML)", "Access 2007–2019 database", …
@@ -113,6 +114,7 @@ struct Limits {
     std::uint32_t zipRatio = 200;               ///< unpacked to packed size, behind the first MiB: --max-zip-ratio
     std::uint64_t moduleBytes = 16ull << 20;    ///< text of one module: --max-module-size
     std::uint64_t sourceBytes = 256ull << 20;   ///< text of all modules of one document: --max-source-size
+    std::uint64_t checkBytes = 2048ull << 20;   ///< memory for the code of one document: --max-memory
     std::uint32_t modules = 32767;              ///< modules of one project: --max-modules
     std::uint32_t storageDepth = 16;            ///< nested storages of a compound file: --max-storage-depth
     /// Storages and streams of a compound file, free entries included: --max-storage-entries. The library's time grows

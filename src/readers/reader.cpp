@@ -105,17 +105,21 @@ std::string ReadWholeFile(const std::string& path, const Limits& limits) {
 
 Document ReadDocument(std::string_view bytes, const std::string& path, const Limits& limits) {
     RequireSize(path, bytes.size(), limits);
+    Document document;
     switch (RecogniseFile(bytes)) {
         case FileKind::Office:
-            return ReadOfficeDocument(bytes, path, limits);
-        case FileKind::AccessDatabase:
-            return ReadAccessDatabase(bytes, path, limits);
-        case FileKind::Other:
+            document = ReadOfficeDocument(bytes, path, limits);
             break;
+        case FileKind::AccessDatabase:
+            document = ReadAccessDatabase(bytes, path, limits);
+            break;
+        case FileKind::Other:
+            Fail(ReadFailure::NotADocument,
+                 "„[%1]“ ist weder eine Office- noch eine Access-Datei; ein Dokument oder exportierte Module angeben.",
+                 "“[%1]” is neither an Office nor an Access file; name a document or exported modules.", {path});
     }
-    Fail(ReadFailure::NotADocument,
-         "„[%1]“ ist weder eine Office- noch eine Access-Datei; ein Dokument oder exportierte Module angeben.",
-         "“[%1]” is neither an Office nor an Access file; name a document or exported modules.", {path});
+    document.fileBytes = bytes.size();
+    return document;
 }
 
 Document ReadDocument(const std::string& path, const Limits& limits) {

@@ -149,12 +149,36 @@ class Opener {
         workspace_.empty.push_back(std::move(without));
     }
 
+    // Only the memory for a document is bounded: loose modules are as large as they are.
+    CompiledModules CompileWithin(readers::Document& document, bool isDocument) {
+        CompileOptions options{.keepRawCode = options_.keepRawCode, .times = options_.times};
+        if (isDocument) options.memory = options_.limits.InProportionTo(document.fileBytes).checkBytes;
+        const std::size_t found = document.modules.size();
+        CompiledModules compiled = Compile(document.modules, options);
+        const std::size_t taken = document.modules.size();
+        if (taken == found) return compiled;
+        readers::Sentence problem = readers::MakeSentence(
+            "Für den Code in „[%1]“ reichen [%2] Speicher nicht, [%3] der [%4] Module wurden genommen; --max-memory "
+            "hebt "
+            "die Grenze an.",
+            "[%2] of memory do not suffice for the code in “[%1]”, [%3] of its [%4] modules were taken; --max-memory "
+            "raises the limit.",
+            {document.path, readers::SizeText(options.memory), std::to_string(taken), std::to_string(found)});
+        if (taken == 0) {
+            workspace_.unreadable.push_back({document.path, readers::ReadFailure::Limit, std::move(problem)});
+        } else {
+            workspace_.problems.push_back(std::move(problem));
+        }
+        return compiled;
+    }
+
     void Add(readers::Document&& document, bool isDocument) {
         OpenedProject opened;
         opened.isDocument = isDocument;
         CompiledModules compiled;
         if (options_.compile) {
-            compiled = Compile(document.modules, options_.keepRawCode, options_.times);
+            compiled = CompileWithin(document, isDocument);
+            if (document.modules.empty()) return;
         } else {
             compiled.rawCode.resize(document.modules.size());
             compiled.wordPlaces.resize(document.modules.size());

@@ -143,6 +143,44 @@ TEST(Workspace, DocumentWhoseCodeALimitKeptIsNotEmpty) {
     EXPECT_EQ(opened.unreadable.size(), 1U);
 }
 
+// A module of ever new names, which takes far more memory than code that people write. Its lines are not canonical, and
+// the last one is an error.
+TEST(Workspace, TakesNoMoreOfADocumentThanItsMemoryAllows) {
+    const TemporaryFolder folder;
+    std::string dense = "Sub S()\r\n";
+    for (int i = 0; i < 10000; ++i) dense += "n" + std::to_string(i) + "=1\r\n";
+    test::TestProject project;
+    project.modules = {test::StandardModule(u"A", "Dim a"), test::StandardModule(u"B", dense + "x(\r\nEnd Sub\r\n"),
+                       test::StandardModule(u"C", "Dim c")};
+    const std::string path = (folder.path / "a.xls").string();
+    WriteFile(path, test::WriteCompoundFile(test::WriteProject(project)).bytes);
+    std::size_t before = 0;
+    for (std::uint64_t memory = 250'000; memory <= 5'000'000; memory += 125'000) {
+        OpenOptions options;
+        options.limits.checkBytes = memory;
+        const Workspace opened = Open({path}, options);
+        ASSERT_EQ(opened.projects.size(), 1U) << memory;
+        const std::size_t modules = opened.projects[0].project->VBComponents().size();
+        EXPECT_GE(modules, before) << memory;
+        EXPECT_EQ(opened.projects[0].errors.size(), modules == 3 ? 1U : 0U) << memory;
+        EXPECT_EQ(opened.Complete(), modules == 3) << memory;
+        if (modules < 3) {
+            EXPECT_NE(opened.problems.at(0).english.find("--max-memory"), std::string::npos);
+        }
+        before = modules;
+    }
+    EXPECT_EQ(before, 3U);
+
+    project.modules.erase(project.modules.begin());
+    WriteFile(path, test::WriteCompoundFile(test::WriteProject(project)).bytes);
+    OpenOptions options;
+    options.limits.checkBytes = 250'000;
+    const Workspace opened = Open({path}, options);
+    EXPECT_TRUE(opened.projects.empty());
+    ASSERT_EQ(opened.unreadable.size(), 1U);
+    EXPECT_EQ(opened.unreadable[0].failure, readers::ReadFailure::Limit);
+}
+
 TEST(Workspace, DocumentIsKnownByItsContent) {
     const TemporaryFolder folder;
     test::TestProject project;

@@ -245,7 +245,7 @@ std::vector<WordWithEnding> WordTable::EndingIn(TextView ending) const {
 }
 
 // Nearly every word of a text is a short one that the table holds where its hash leads. This is the loop for these.
-std::vector<WordPlace> WordTable::Read(TextView text) {
+std::vector<WordPlace> WordTable::Read(TextView text, std::uint32_t most) {
     constexpr std::size_t kCharactersPerWord = 6;  // of the code that people write; other code is counted
     std::vector<WordPlace> places;
     places.reserve(text.size() / kCharactersPerWord);
@@ -270,6 +270,7 @@ std::vector<WordPlace> WordTable::Read(TextView text) {
         const Slot slot = slots[hash & mask];
         std::uint32_t number = slot.number;
         if (!isShort || slot.hash != hash || keys_[number] != key) {
+            if (Size() >= most) return;
             const TextView word = text.substr(begin, length);
             number = NumberOf(isShort ? key : KeyOf(word), word);
             slots = slots_.data();

@@ -65,8 +65,9 @@ class WordTable {
     std::vector<WordWithEnding> EndingIn(TextView ending) const;
 
     /// The words of a text in order: every run of characters of the index that is as long as it can be. Words that the
-    /// table does not hold yet are added. Linear in the text, which has less than 2^32 characters.
-    std::vector<WordPlace> Read(TextView text);
+    /// table does not hold yet are added. Linear in the text, which has less than 2^32 characters. Comes back before
+    /// the text's end if the table has grown to `most` words.
+    std::vector<WordPlace> Read(TextView text, std::uint32_t most = kNoWord);
 
   private:
     static constexpr std::size_t kPacked = 16;

@@ -1,5 +1,7 @@
 #include "core/declarations/procedure_declarations.h"
 
+#include <algorithm>
+
 #include "core/declarations/declaration_lists.h"
 #include "core/scanning/find_walk.h"
 #include "core/scanning/logical_lines.h"
@@ -58,6 +60,7 @@ class ProcedureScanner {
     void ReadStatement(TextView statement, TextView keyword, int lngZeile, int lngAnzahl) {
         const int found = InStr(1, statement, keyword);
         if (found == 0) return;
+        MakeRoom(statement);
         List list(statement, found + Len(keyword) + 1);
         for (DeclaredName name; list.Next(name);) {
             LocateName(cm_, name.strName, lngZeile, lngAnzahl, at_);
@@ -68,6 +71,12 @@ class ProcedureScanner {
             record_.lngDeklSpalte = at_.lngDeklSpalte;
             table_.push_back(record_);
         }
+    }
+
+    // The table of a list without end would be there twice while it grows.
+    void MakeRoom(TextView statement) {
+        const auto commas = static_cast<std::size_t>(std::count(statement.begin(), statement.end(), u','));
+        if (commas > table_.capacity()) table_.reserve(table_.size() + commas + 1);
     }
 
     const VBComponent& vbc_;
