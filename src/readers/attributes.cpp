@@ -1,6 +1,6 @@
-// The text is walked once, physical line by physical line, and its code is left behind in its own place. Only where a logical line begins can a line be an
-// `Attribute` line; its continuations share its fate. In front of the code an exported module may hold a header, of
-// which the nesting of BEGIN and END tells where it stops.
+// The text is walked once, physical line by physical line, and its code is left behind in its own place. Only where a
+// logical line begins can a line be an `Attribute` line; its continuations share its fate. In front of the code an
+// exported module may hold a header, of which the nesting of BEGIN and END tells where it stops.
 
 #include "readers/attributes.h"
 
