@@ -245,6 +245,21 @@ TEST(Index, AnswersWhatAWalkOverTheTextAnswers) {
     }
 }
 
+// More words end like the target than are asked one by one.
+TEST(Index, AnswersForManyWordsThatEndAlike) {
+    VBProject project(u"P");
+    Text code;
+    for (int i = 0; i < 20000; ++i) code += u"a" + ToText(i) + u"GoTo x\n";
+    const CodeModule& cm = project.Add(u"A", 1, code).CodeModule();
+    FindRange range{1, 0, -1, -1};
+    int found = 0;
+    while (cm.Find(u"GoTo ", range, {.matchCase = true})) {
+        ASSERT_EQ(range.startLine, ++found);
+        range = {range.startLine, range.startColumn + 1, -1, -1};
+    }
+    EXPECT_EQ(found, 20000);
+}
+
 // Slots of the index move when it grows, and a name that occurs in the very first module must still be found.
 TEST(Index, HoldsManyWords) {
     VBProject project(u"P");

@@ -45,6 +45,7 @@ bool HasCase(TextView target) {
 }
 
 constexpr std::uint32_t kFewCharacters = 256;  // are sooner gone through than asked for
+constexpr std::size_t kManyWords = 16;         // cost each question more than going through the text
 
 }  // namespace
 
@@ -172,14 +173,21 @@ std::size_t CodeModule::SearchWord(TextView target, Bounds bounds, bool (*contin
     return kNotFound;
 }
 
-// The first `length` characters of the target are those of the index, and another one follows: it can only stand where
-// a word ends.
-std::size_t CodeModule::SearchEnding(TextView target, std::size_t length, Bounds bounds) const {
+// A target that begins with characters of the index, and in which another one follows, can only stand where a word
+// ends: there it is looked for if few words end like that. Any other target, and any in a few lines, by going through
+// the text.
+std::size_t CodeModule::SearchFragment(TextView target, Bounds bounds) const {
+    const auto wordEnd = std::find_if_not(target.begin(), target.end(), IsIndexCharacter);
+    if (wordEnd == target.begin() || wordEnd == target.end() || bounds.to - bounds.from < kFewCharacters) {
+        return SearchText(target, bounds, {.matchCase = true});
+    }
     const TextView text(text_);
     const WordIndex& words = component_.Project().Words();
+    const auto& endings = words.EndingIn(target.substr(0, static_cast<std::size_t>(wordEnd - target.begin())));
+    if (endings.size() >= kManyWords) return SearchText(target, bounds, {.matchCase = true});
     const Place start = words.StartOf(component_.Index());
     std::size_t first = kNotFound;
-    for (const WordWithEnding& word : words.EndingIn(target.substr(0, length))) {
+    for (const WordWithEnding& word : endings) {
         const std::uint32_t from = bounds.from - std::min(bounds.from, word.lead);
         for (const Place place : words.PlacesOf(word.number, component_.Index(), from)) {
             const std::size_t offset = place - start + word.lead;
@@ -201,15 +209,11 @@ bool CodeModule::Deliver(std::size_t offset, std::size_t length, FindRange& rang
 }
 
 bool CodeModule::Find(TextView target, FindRange& range, FindFlags flags) const {
-    if (flags.wholeWord && flags.matchCase) return FindWord(target, range, IsWordCharacter);
-    const auto wordEnd = std::find_if_not(target.begin(), target.end(), IsIndexCharacter);
+    if (!flags.matchCase) return FindByWalk(target, range, flags);
+    if (flags.wholeWord) return FindWord(target, range, IsWordCharacter);
     Bounds bounds;
-    const bool isEnding = flags.matchCase && wordEnd != target.begin() && wordEnd != target.end();
-    if (!isEnding || !ToBounds(range, bounds) || bounds.to - bounds.from < kFewCharacters) {
-        return FindByWalk(target, range, flags);
-    }
-    const auto length = static_cast<std::size_t>(wordEnd - target.begin());
-    return Deliver(SearchEnding(target, length, bounds), target.size(), range);
+    if (target.empty() || !ToBounds(range, bounds)) return false;
+    return Deliver(SearchFragment(target, bounds), target.size(), range);
 }
 
 bool CodeModule::FindWord(TextView target, FindRange& range, bool (*continuesWord)(char16_t)) const {

@@ -97,7 +97,7 @@ class CodeModule {
     bool ToBounds(const FindRange& range, Bounds& bounds) const;
     std::size_t SearchText(TextView target, Bounds bounds, FindFlags flags) const;
     std::size_t SearchWord(TextView target, Bounds bounds, bool (*continuesWord)(char16_t)) const;
-    std::size_t SearchEnding(TextView target, std::size_t length, Bounds bounds) const;
+    std::size_t SearchFragment(TextView target, Bounds bounds) const;
     bool Deliver(std::size_t offset, std::size_t length, FindRange& range) const;
     bool StandsFree(std::size_t offset, std::size_t length, bool (*continuesWord)(char16_t)) const;
     const Procedure& ProcedureNamed(TextView name, int kind) const;
