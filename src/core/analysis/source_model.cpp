@@ -26,6 +26,7 @@ std::vector<std::uint32_t> FindLineStarts(TextView text) {
         }
         starts.push_back(static_cast<std::uint32_t>(end) + 1);
     });
+    starts.shrink_to_fit();
     return starts;
 }
 

@@ -280,6 +280,7 @@ std::vector<WordPlace> WordTable::Read(TextView text, std::uint32_t most) {
         if (taken == piece.size()) keepPiece(end);
     });
     keepPiece(text.size());
+    places.shrink_to_fit();
     return places;
 }
 
