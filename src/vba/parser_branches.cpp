@@ -109,10 +109,6 @@ class BranchSelector {
 
 }  // namespace
 
-bool HasDirectives(const Tokens& tokens) {
-    return std::ranges::any_of(tokens, [](const Token& token) { return token.Is(TokenKind::Directive); });
-}
-
 Tokens SelectBranches(TextView text, const Tokens& tokens, Branches branches, const ConditionSettings& settings,
                       FoundFaults& faults) {
     return BranchSelector(text, branches, settings, faults).Select(tokens);

@@ -15,8 +15,6 @@ enum class Branches : std::uint8_t {
     Active,  ///< The branch of each `#If` whose condition is the first to hold.
 };
 
-bool HasDirectives(const Tokens& tokens);
-
 /// The tokens without directives. Offsets still point into `text`. Notes directives that don't fit together. `settings`
 /// play a part for the active branches.
 Tokens SelectBranches(TextView text, const Tokens& tokens, Branches branches, const ConditionSettings& settings,

@@ -5,6 +5,8 @@
 
 #include "vba/syntax.h"
 
+#include <utility>
+
 #include "vba/parser_branches.h"
 #include "vba/parser_faults.h"
 #include "vba/parser_module.h"
@@ -39,10 +41,40 @@ FoundFaults FaultsOfBranches(TextView text, const Tokens& tokens) {
     return first;
 }
 
+// The longest name that the editor takes. A bracketed one is no identifier of the language.
+constexpr std::size_t kLongestName = 255;
+
+bool IsTooLong(const Token& token, TextView text) {
+    return token.kind == TokenKind::Name && token.length > kLongestName && !token.Has(kBracketed) &&
+           NameOf(token, text).size() > kLongestName;
+}
+
+// What few modules have, and what takes a further look at those that have it.
+struct Rarities {
+    bool directive = false;
+    bool longToken = false;
+};
+
+Rarities FindRarities(const Tokens& tokens) {
+    Rarities found;
+    for (const Token& token : tokens) {
+        found.directive |= token.kind == TokenKind::Directive;
+        found.longToken |= token.length > kLongestName;
+    }
+    return found;
+}
+
 }  // namespace
 
 std::vector<SyntaxError> CheckSyntax(TextView text, const Tokens& tokens) {
-    return Describe(text, HasDirectives(tokens) ? FaultsOfBranches(text, tokens) : FaultsOf(text, tokens));
+    const Rarities has = FindRarities(tokens);
+    FoundFaults faults = has.directive ? FaultsOfBranches(text, tokens) : FaultsOf(text, tokens);
+    if (has.longToken) {
+        for (const Token& token : tokens) {
+            if (IsTooLong(token, text)) faults.push_back({token.offset, Fault::NameTooLong, {}});
+        }
+    }
+    return Describe(text, std::move(faults));
 }
 
 }  // namespace zentlor::vba

@@ -3,6 +3,7 @@
 #include "core/results/result_list.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <algorithm>
 #include <random>
@@ -89,6 +90,22 @@ TEST(ResultList, GivesBackEveryHintThatItPacked) {
             ASSERT_EQ(list.Emitted()[index], hints[index]) << index;
         }
     }
+}
+
+// Every hint on a procedure bears its name, and a hostile one is long.
+TEST(ResultList, KeepsALongTextOnce) {
+    constexpr std::size_t kLength = 100'000;
+    constexpr std::size_t kHints = 2000;
+    Hint hint = HintAt(u"M", 1);
+    hint.strProzedur = Text(kLength, u'x');
+    ResultList list;
+    const std::size_t before = mallinfo2().uordblks;
+    for (std::size_t i = 0; i < kHints; ++i) {
+        hint.lngZeile = static_cast<int>(i);
+        list.Add(hint);
+    }
+    EXPECT_LT(mallinfo2().uordblks, before + 20 * kLength);
+    EXPECT_EQ(list.Emitted()[kHints - 1], hint);
 }
 
 TEST(ResultList, SortsByEachColumnWhileItGrows) {

@@ -84,8 +84,8 @@ void HintSequence::Add(const Hint& hint) {
     if (size_ > 0 && hint == last_) {
         Repeat();
     } else {
-        if (blocks_.empty() || blocks_.back().bytes.size() >= kBlockBytes) {
-            blocks_.push_back({size_, {}});
+        if (blocks_.empty() || blocks_.back().IsFull()) {
+            blocks_.push_back({size_, {}, 0});
             last_ = {};
         }
         std::string& bytes = blocks_.back().bytes;
@@ -110,8 +110,14 @@ void HintSequence::Add(const Hint& hint) {
         putNumber(kComponent, hint.component, last_.component);
         last_ = hint;
         repetition_ = 0;
+        if (fields == 0) blocks_.back().firstBytes = bytes.size();
     }
     ++size_;
+}
+
+// The first hint of a block is there whole. It may be large, and then has others behind it that are worth it.
+bool HintSequence::Block::IsFull() const {
+    return bytes.size() - firstBytes >= std::max(kBlockBytes, firstBytes);
 }
 
 void HintSequence::Repeat() {

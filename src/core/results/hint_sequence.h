@@ -31,6 +31,9 @@ class HintSequence {
     struct Block {
         std::size_t first = 0;  // the number of its first hint
         std::string bytes;
+        std::size_t firstBytes = 0;  // those of its first hint
+
+        bool IsFull() const;
     };
 
   public:

@@ -1,0 +1,5 @@
+Option Explicit
+
+Public Sub Pruefen()
+    Dim lngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllngAnzahllng7 As Long
+End Sub
