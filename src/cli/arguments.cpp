@@ -117,7 +117,7 @@ class CommandLine {
              "unpacked size of one part of a zip; if not given, at most 16 MB plus four times the file");
         size("--max-module-size", limits.moduleBytes, "text of one module");
         size("--max-source-size", limits.sourceBytes,
-             "text of all modules of one document; if not given, at most 1 MB plus four times the file");
+             "text of all modules of one document; if not given, at most 1 MB plus three times the file");
         size("--max-memory", limits.checkBytes,
              "memory for the code of one document, estimated; if not given, at most 32 MB plus ten times the file");
         const auto count = [&](const char* option, auto& value, const char* what) {

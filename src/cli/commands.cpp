@@ -79,7 +79,7 @@ workspace::Workspace OpenFor(const Arguments& arguments, bool keepRawCode, int s
     options.limits = arguments.limits;
     options.projectPerFolder = arguments.projectPerFolder;
     options.keepRawCode = keepRawCode;
-    options.compile = arguments.verb != Verb::Info;
+    options.compile = arguments.verb != Verb::Info && arguments.verb != Verb::Extract;  // which give the code as it is
     workspace::Workspace opened = workspace::Open(arguments.paths, options);
     PrintTroubles(opened, sprache);
     return opened;

@@ -71,8 +71,7 @@ class Extractor {
         std::error_code ignored;
         if (arguments_.force && fs::is_regular_file(fs::symlink_status(path, ignored))) fs::remove(path, ignored);
         int lost = 0;
-        const Text text = workspace::ExportText(project, component);
-        const std::string bytes = arguments_.utf8 ? "\xEF\xBB\xBF" + ToUtf8(text) : ToWindows1252(text, &lost);
+        const std::string bytes = BytesOf(project, component, lost);
         if (const int error = WriteNewFile(path.string(), bytes); error != 0) {
             failed_ = true;
             Tell(Refusal(path.string(), error));
@@ -86,6 +85,20 @@ class Extractor {
                  "Windows-1252 lacks [%2] of “[%1]”; --utf8 keeps all.",
                  {Printable(path.string()),
                   Counted(characters, sprache_, {"Zeichen", "Zeichen"}, {"character", "characters"})}));
+    }
+
+    // `lost` receives how many characters Windows-1252 does not have.
+    std::string BytesOf(const workspace::OpenedProject& project, const VBComponent& component, int& lost) const {
+        std::string bytes = arguments_.utf8 ? "\xEF\xBB\xBF" : "";
+        const CodeModule& cm = component.CodeModule();
+        bytes.reserve(cm.AllText().size() + static_cast<std::size_t>(cm.CountOfLines()) + kUsualHeader);
+        workspace::ForEachExportLine(project, component, [&](TextView line) {
+            int missing = 0;
+            bytes += arguments_.utf8 ? ToUtf8(line) : ToWindows1252(line, &missing);
+            bytes += "\r\n";
+            lost += missing;
+        });
+        return bytes;
     }
 
     // The error's number, 0 if all was written. A file that took a part only is removed.
@@ -114,6 +127,8 @@ class Extractor {
         return Say(sprache_, "„[%1]“ wurde nicht geschrieben: [%2].", "“[%1]” was not written: [%2].",
                    {Printable(path), std::strerror(error)});
     }
+
+    static constexpr std::size_t kUsualHeader = 1024;
 
     const Arguments& arguments_;
     int sprache_;
@@ -179,7 +194,7 @@ class InfoPages {
 
 int RunExtract(const Arguments& arguments) {
     const int sprache = LanguageOf(arguments);
-    return Extractor(arguments, sprache).Run(OpenFor(arguments, true, sprache));
+    return Extractor(arguments, sprache).Run(OpenFor(arguments, false, sprache));
 }
 
 int RunInfo(const Arguments& arguments) {

@@ -12,7 +12,7 @@ Limits Limits::InProportionTo(std::uint64_t file) const {
     };
     // Modules are stored at a half to a quarter of their size, mostly beside their compiled form, which is larger. What
     // is taken in grows thirtyfold at worst while it is checked.
-    bound(limits.sourceBytes, defaults.sourceBytes, 256, 4);
+    bound(limits.sourceBytes, defaults.sourceBytes, 256, 3);
     bound(limits.checkBytes, defaults.checkBytes, 64, 10);
     bound(limits.zipPartBytes, defaults.zipPartBytes, 16, 4);
     return limits;

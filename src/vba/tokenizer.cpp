@@ -1,7 +1,6 @@
 // The tokenizer walks over the text once. At each place the first character decides what begins there; blanks are
 // stepped over. Few places need a look at the token before: "#" behind `Print` opens a file number and no date, a word
-// behind
-// "." is a member, "." between a name and a digit is no decimal point. A comment lasts as long as its lines are
+// behind "." is a member, "." between a name and a digit is no decimal point. A comment lasts as long as its lines are
 // continued.
 
 #include "vba/tokenizer.h"
@@ -180,27 +179,6 @@ class Scanner {
         std::size_t end = at_;
         while (HasTraitAt(end, kNamePart)) ++end;
         return MeaningOf(text_.substr(at_, end - at_));
-    }
-
-    static WordMeaning MeaningOf(TextView word) {
-        WordMeaning meaning;
-        meaning.length = static_cast<std::uint32_t>(word.size());
-        meaning.keyword = KeywordOf(word);
-        meaning.isReserved = IsReserved(meaning.keyword);
-        const bool isRespelled = meaning.keyword == Keyword::EndIf ||
-                                 (meaning.keyword != Keyword::None && word != Spelling(meaning.keyword));
-        if (isRespelled) meaning.flags = kRespelled;
-        return meaning;
-    }
-
-    static Keyword KeywordOf(TextView word) {
-        char16_t narrow[16];
-        if (word.size() > std::size(narrow)) return Keyword::None;
-        for (std::size_t i = 0; i < word.size(); ++i) {
-            narrow[i] = FoldWidth(word[i]);
-            if (narrow[i] >= 128) return Keyword::None;
-        }
-        return FindKeyword(TextView(narrow, word.size()));
     }
 
     // Whether the character at `place`, directly behind a name, is the name's type character. "!" in front of a name

@@ -8,16 +8,9 @@
 
 #include "core/analysis/words.h"
 #include "vba/token.h"
+#include "vba/word_meaning.h"
 
 namespace zentlor::vba {
-
-/// What a word of letters, digits and "_" is, wherever it stands.
-struct WordMeaning {
-    std::uint32_t length = 0;  ///< in characters; 0 while nothing is known of the word
-    Keyword keyword = Keyword::None;
-    bool isReserved = false;
-    std::uint8_t flags = 0;  ///< `kRespelled` or none
-};
 
 /// Reads the modules of one project. Remembers what each of its words is.
 class Tokenizer {

@@ -47,7 +47,7 @@ class MemoryEstimate {
     static constexpr std::uint64_t kMostPerCharacter = 40;  // whatever the code is
     static constexpr std::uint64_t kCharacter = 2;
     static constexpr std::uint64_t kPlace = 8;
-    static constexpr std::uint64_t kWord = 140;     // a different one, in all tables that know it
+    static constexpr std::uint64_t kWord = 180;     // a different one, in all tables that know it
     static constexpr std::uint64_t kToken = 24;     // of the largest module, or what the checks make of it
     static constexpr std::uint64_t kRewritten = 6;  // a character of the module that is written anew
 

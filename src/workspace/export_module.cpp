@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 #include "core/utilities/encoding.h"
 
 namespace zentlor::workspace {
 
 namespace {
-
-constexpr TextView kLineEnd = u"\r\n";
 
 bool HasAttributes(TextView header) {
     return header.find(u"Attribute VB_") != TextView::npos;
@@ -39,37 +38,36 @@ Text MadeAttributes(const VBComponent& component) {
     return header + Attribute(u"VB_Exposed", shown);
 }
 
-void AppendLines(TextView text, Text& out) {
+using TakeLine = std::function<void(TextView line)>;
+
+void TakeLines(TextView text, const TakeLine& take) {
     for (std::size_t begin = 0; begin < text.size();) {
         const std::size_t end = std::min(text.find(u'\n', begin), text.size());
-        out.append(text.substr(begin, end - begin)).append(kLineEnd);
+        take(text.substr(begin, end - begin));
         begin = end + 1;
     }
 }
 
 }  // namespace
 
-Text ExportText(const OpenedProject& project, const VBComponent& component) {
+void ForEachExportLine(const OpenedProject& project, const VBComponent& component, const TakeLine& take) {
     const ModuleOrigin& origin = project.OriginOf(component);
-    Text out;
     const bool versioned = origin.header.starts_with(u"VERSION");
-    if (!versioned && component.Type() != vbext_ct_StdModule) AppendLines(VersionBlock(component), out);
-    AppendLines(origin.header, out);
-    if (!HasAttributes(origin.header)) AppendLines(MadeAttributes(component), out);
+    if (!versioned && component.Type() != vbext_ct_StdModule) TakeLines(VersionBlock(component), take);
+    TakeLines(origin.header, take);
+    if (!HasAttributes(origin.header)) TakeLines(MadeAttributes(component), take);
 
-    const TextView code = origin.rawCode.empty() ? component.CodeModule().AllText() : TextView(origin.rawCode);
+    const CodeModule& cm = component.CodeModule();
     auto hidden = origin.innerAttributes.begin();
-    std::uint32_t line = 0;
-    for (std::size_t begin = 0; begin < code.size(); ++line) {
-        for (; hidden != origin.innerAttributes.end() && hidden->linesBefore <= line; ++hidden) {
-            AppendLines(hidden->text, out);
-        }
-        const std::size_t end = std::min(code.find(u'\n', begin), code.size());
-        out.append(code.substr(begin, end - begin)).append(kLineEnd);
-        begin = end + 1;
+    const auto takeHidden = [&](int linesBefore) {
+        for (; hidden != origin.innerAttributes.end() && static_cast<int>(hidden->linesBefore) <= linesBefore; ++hidden)
+            TakeLines(hidden->text, take);
+    };
+    for (int line = 1; line <= cm.CountOfLines(); ++line) {
+        takeHidden(line - 1);
+        take(cm.Lines(line));
     }
-    for (; hidden != origin.innerAttributes.end(); ++hidden) AppendLines(hidden->text, out);
-    return out;
+    takeHidden(std::numeric_limits<int>::max());
 }
 
 std::string PlainFileName(TextView name) {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "support/documents/compound_file_writer.h"
+#include "support/documents/ovba_writer.h"
 #include "support/run_program.h"
 
 namespace zentlor::test {
@@ -265,6 +267,20 @@ TEST_F(Program, ExtractedFolderGivesTheSameHints) {
     EXPECT_NE(again.err.find("--force"), std::string::npos);
     EXPECT_EQ(Zentlor("extract examples/kunden --force -o " + target).status, 0);
     EXPECT_EQ(hints(target), hints("examples/kunden"));
+}
+
+// The bound is one for the checks: what is only written out or listed needs no memory beside its text.
+TEST_F(Program, MemoryForTheChecksKeepsNoModuleFromBeingExtracted) {
+    test::TestProject project;
+    project.modules = {test::StandardModule(u"M", "dim  a\r\n")};
+    const std::string document = (folder.path / "a.xls").string();
+    WriteFile(document, test::WriteCompoundFile(test::WriteProject(project)).bytes);
+    const ProgramResult refused = Zentlor("check --isolated --max-memory 10B " + document);
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_NE(refused.err.find("--max-memory"), std::string::npos) << refused.err;
+    EXPECT_EQ(Zentlor("info --max-memory 10B " + document).status, 0);
+    EXPECT_EQ(Zentlor("extract --max-memory 10B " + document + " -o " + folder.path.string()).status, 0);
+    EXPECT_NE(ReadFile(folder.path / "M.bas").find("\r\ndim  a\r\n"), std::string::npos) << "as it is stored";
 }
 
 TEST_F(Program, ExtractStaysInItsFolder) {

@@ -327,9 +327,9 @@ class ExtentFinder {
     // Gives every further procedure of one name and kind a kind of its own.
     void NumberDuplicates() {
         auto& procedures = result_.procedures;
-        std::vector<std::size_t> order(procedures.size());
-        std::iota(order.begin(), order.end(), std::size_t{0});
-        std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        std::vector<std::uint32_t> order(procedures.size());
+        std::iota(order.begin(), order.end(), std::uint32_t{0});
+        std::stable_sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
             return procedures[a].kind != procedures[b].kind ? procedures[a].kind < procedures[b].kind
                                                             : procedures[a].name < procedures[b].name;
         });

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/utilities/text.h"
+#include "vba/keywords.h"
+
+namespace zentlor::vba {
+
+/// What a word of letters, digits and "_" is, wherever it stands.
+struct WordMeaning {
+    std::uint32_t length = 0;  ///< in characters; 0 while nothing is known of the word
+    Keyword keyword = Keyword::None;
+    bool isReserved = false;
+    std::uint8_t flags = 0;  ///< `kRespelled` or none, see token.h
+};
+
+WordMeaning MeaningOf(TextView word);
+
+/// The keyword that a word is in any case and width, or `Keyword::None`.
+Keyword KeywordOf(TextView word);
+
+}  // namespace zentlor::vba
