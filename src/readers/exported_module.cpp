@@ -115,7 +115,8 @@ Text DecodeModuleText(std::string_view bytes) {
 
 std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std::string& path) {
     Text text = DecodeModuleText(bytes);
-    if (FindCharacter(text, 0, u'\0') < text.size()) {
+    const bool mayHoldZeros = bytes.find('\0') != std::string_view::npos;
+    if (mayHoldZeros && FindCharacter(text, 0, u'\0') < text.size()) {
         Fail(ReadFailure::NotADocument,
              "„[%1]“ ist kein Modul: die Datei enthält Zeichen, die in keinem Text stehen; ein exportiertes Modul, "
              "ein Office-Dokument oder eine Access-Datenbank angeben.",

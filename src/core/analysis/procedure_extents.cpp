@@ -29,20 +29,13 @@ bool IsNumber(TextView word) {
 // Takes words off the front of a statement. A continuation between two words is a blank like others.
 class StatementReader {
   public:
-    explicit StatementReader(TextView statement) : rest_(statement) { SkipSpace(); }
+    explicit StatementReader(TextView statement) : rest_(statement) { Skip(0); }
 
     TextView Rest() const { return rest_; }
 
-    TextView PeekWord() const {
-        std::size_t length = 0;
-        while (length < rest_.size() && IsWordCharacter(rest_[length])) ++length;
-        return rest_.substr(0, length);
-    }
-
     bool Take(TextView keyword) {
-        const TextView word = PeekWord();
-        if (!EqualIgnoringCase(word, keyword)) return false;
-        Skip(word.size());
+        if (!EqualIgnoringCase(word_, keyword)) return false;
+        Skip(word_.size());
         return true;
     }
 
@@ -53,14 +46,16 @@ class StatementReader {
     }
 
     void SkipLineNumber() {
-        const TextView word = PeekWord();
-        if (IsNumber(word)) Skip(word.size());
+        if (IsNumber(word_)) Skip(word_.size());
     }
 
   private:
     void Skip(std::size_t length) {
         rest_.remove_prefix(length);
         SkipSpace();
+        length = 0;
+        while (length < rest_.size() && IsWordCharacter(rest_[length])) ++length;
+        word_ = rest_.substr(0, length);
     }
     void SkipSpace() {
         for (;;) {
@@ -72,6 +67,7 @@ class StatementReader {
     }
 
     TextView rest_;
+    TextView word_;  // with which it begins
 };
 
 struct Header {

@@ -76,52 +76,51 @@ class BorderFinder {
   public:
     static constexpr std::size_t kStretch = 64;
     static constexpr std::size_t kAtOnce = 8;
-    /// Room for the borders of one stretch, and for what is written behind them.
-    using Borders = std::array<std::uint32_t, kStretch + kAtOnce>;
 
     /// Writes the borders in the kStretch characters at `stretch`, to which `offset` is added, and says how many there
-    /// are. A border is a bit that differs from the one in front of it. They are written several at a time, since
-    /// processors guess badly how many a stretch holds.
-    std::size_t Find(const char16_t* stretch, std::uint32_t offset, Borders& found) {
+    /// are. A border is a bit that differs from the one in front of it.
+    std::size_t Find(const char16_t* stretch, std::uint32_t offset, std::uint32_t* found) {
         std::uint64_t places = 0;
         for (std::size_t i = 0; i < kStretch; i += kBlock) {
             places |= std::uint64_t{PlacesOfIndexCharacters(stretch + i)} << i;
         }
-        std::uint64_t borders = places ^ (places << 1 | lastPlace_);
+        const std::uint64_t borders = places ^ (places << 1 | lastPlace_);
         lastPlace_ = places >> (kStretch - 1);
-        const auto count = static_cast<std::size_t>(std::popcount(borders));
-        for (std::size_t written = 0; written < count; written += kAtOnce) {
-            for (std::size_t i = 0; i < kAtOnce; ++i) {
-                found[written + i] = offset + static_cast<std::uint32_t>(std::countr_zero(borders));
-                borders &= borders - 1;
-            }
-        }
-        return count;
+        return WritePlaces<kAtOnce>(borders, offset, found);
     }
 
   private:
     std::uint64_t lastPlace_ = 0;  // 1 where the last character belongs to a word
 };
 
-// Calls `visit` with begin and end of every run of the index's characters.
+// Calls `visit` with begin and end of every run of the index's characters. The borders of many stretches are found
+// before the words between them are looked at: short loops end where no processor expects it.
 template <class Visit>
 void ForEachWord(TextView text, Visit visit) {
+    constexpr std::size_t kStretches = 32;
+    std::array<std::uint32_t, kStretches * BorderFinder::kStretch + BorderFinder::kAtOnce + 1> borders;
+    std::size_t count = 0;
     BorderFinder finder;
-    BorderFinder::Borders borders;
-    constexpr std::uint32_t kNowhere = 0xFFFFFFFF;
-    std::uint32_t begin = kNowhere;  // of a word whose end is not found yet
-    const auto visitStretch = [&](const char16_t* stretch, std::size_t offset) {
-        const std::size_t count = finder.Find(stretch, static_cast<std::uint32_t>(offset), borders);
-        std::size_t i = 0;
-        if (begin != kNowhere && count > 0) visit(std::exchange(begin, kNowhere), borders[i++]);
-        for (; i + 1 < count; i += 2) visit(borders[i], borders[i + 1]);
-        if (i < count) begin = borders[i];
+    const auto find = [&](const char16_t* stretch, std::size_t offset) {
+        count += finder.Find(stretch, static_cast<std::uint32_t>(offset), borders.data() + count);
     };
-    std::size_t i = 0;
-    for (; i + BorderFinder::kStretch <= text.size(); i += BorderFinder::kStretch) visitStretch(text.data() + i, i);
+    const auto visitWords = [&] {
+        for (std::size_t i = 0; i + 1 < count; i += 2) visit(borders[i], borders[i + 1]);
+        if (count % 2 != 0) borders[0] = borders[count - 1];  // of a word whose end is not found yet
+        count %= 2;
+    };
+    std::size_t at = 0;
+    while (at + BorderFinder::kStretch <= text.size()) {
+        for (std::size_t i = 0; i < kStretches && at + BorderFinder::kStretch <= text.size(); ++i) {
+            find(text.data() + at, at);
+            at += BorderFinder::kStretch;
+        }
+        visitWords();
+    }
     char16_t rest[BorderFinder::kStretch] = {};
-    std::copy(text.begin() + static_cast<std::ptrdiff_t>(i), text.end(), rest);
-    visitStretch(rest, i);
+    std::copy(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), rest);
+    find(rest, at);
+    visitWords();
 }
 
 std::size_t CountWords(TextView text) {
@@ -260,10 +259,10 @@ std::vector<WordPlace> WordTable::Read(TextView text, std::uint32_t most) {
     };
     const Slot* slots = slots_.data();
     std::size_t mask = slots_.size() - 1;
-    const std::size_t lastBlock = std::max(text.size(), kPacked) - kPacked;
+    const std::size_t endOfBlocks = std::max(text.size() + 1, kPacked) - kPacked;  // behind the last one's beginning
     ForEachWord(text, [&](std::uint32_t begin, std::uint32_t end) {
         const std::size_t length = end - begin;
-        const bool isShort = length < kPacked && begin <= lastBlock && text.size() >= kPacked;
+        const bool isShort = length < kPacked && begin < endOfBlocks;
         Key key;
         if (isShort) std::tie(key.low, key.high) = Pack(text.data() + begin, length);
         const std::uint32_t hash = HashOf(key, {});

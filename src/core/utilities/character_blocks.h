@@ -7,6 +7,7 @@
 #include <emmintrin.h>
 #endif
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -69,17 +70,44 @@ inline std::uint32_t PlacesOfLetter(char16_t wanted, const char16_t* block) {
 
 #endif
 
-/// Calls `visit` with the offset of every `wanted` in `text`.
-template <class Visit>
-void ForEachPlace(TextView text, char16_t wanted, Visit visit) {
-    std::size_t i = 0;
-    for (; i + kBlock <= text.size(); i += kBlock) {
-        for (std::uint32_t places = PlacesOf(wanted, text.data() + i); places != 0; places &= places - 1) {
-            visit(i + static_cast<std::size_t>(std::countr_zero(places)));
+/// Writes the numbers of the bits that are set in `bits` to `found`, each with `offset` added, the lowest first, and
+/// says how many there are. Writes kAtOnce at a time, since processors guess badly how many there are: what is written
+/// behind the last one means nothing.
+template <std::size_t kAtOnce>
+std::size_t WritePlaces(std::uint64_t bits, std::uint32_t offset, std::uint32_t* found) {
+    constexpr std::uint64_t kLast = std::uint64_t{1} << 63;
+    const auto count = static_cast<std::size_t>(std::popcount(bits));
+    for (std::size_t written = 0; written < count; written += kAtOnce) {
+        for (std::size_t i = 0; i < kAtOnce; ++i) {
+            found[written + i] = offset + static_cast<std::uint32_t>(std::countr_zero(bits | kLast));
+            bits &= bits - 1;
         }
     }
-    for (; i < text.size(); ++i) {
-        if (text[i] == wanted) visit(i);
+    return count;
+}
+
+/// Calls `visit` with the offset of every `wanted` in `text`. Finds many of them before the first one is visited: short
+/// loops end where no processor expects it.
+template <class Visit>
+void ForEachPlace(TextView text, char16_t wanted, Visit visit) {
+    constexpr std::size_t kStretch = 4 * kBlock;
+    constexpr std::size_t kStretches = 32;
+    constexpr std::size_t kAtOnce = 4;
+    std::array<std::uint32_t, kStretches * kStretch + kAtOnce> places;
+    std::size_t at = 0;
+    while (at + kStretch <= text.size()) {
+        std::size_t count = 0;
+        for (std::size_t i = 0; i < kStretches && at + kStretch <= text.size(); ++i, at += kStretch) {
+            std::uint64_t bits = 0;
+            for (std::size_t k = 0; k < kStretch; k += kBlock) {
+                bits |= std::uint64_t{PlacesOf(wanted, text.data() + at + k)} << k;
+            }
+            count += WritePlaces<kAtOnce>(bits, static_cast<std::uint32_t>(at), places.data() + count);
+        }
+        for (std::size_t i = 0; i < count; ++i) visit(std::size_t{places[i]});
+    }
+    for (; at < text.size(); ++at) {
+        if (text[at] == wanted) visit(at);
     }
 }
 

@@ -89,12 +89,16 @@ bool Decode(std::string_view bytes, Text& text, OnMalformed onMalformed) {
 }  // namespace
 
 void AppendUtf8(TextView text, std::string& out) {
+    const auto isAscii = [](char16_t c) { return c < 0x80; };
     for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto from = text.begin() + static_cast<std::ptrdiff_t>(i);
+        const auto plain = static_cast<std::size_t>(std::find_if_not(from, text.end(), isAscii) - from);
+        out.resize(out.size() + plain);
+        std::transform(from, from + static_cast<std::ptrdiff_t>(plain), out.end() - static_cast<std::ptrdiff_t>(plain),
+                       [](char16_t c) { return static_cast<char>(c); });
+        i += plain;
+        if (i == text.size()) return;
         std::uint32_t c = text[i];
-        if (c < 0x80) {
-            out.push_back(static_cast<char>(c));
-            continue;
-        }
         if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
             c = 0x10000 + ((c & 0x3FF) << 10) + (text[++i] & 0x3FFU);
         } else if ((c & 0xF800) == 0xD800) {

@@ -31,13 +31,12 @@ bool IsSymbolOutsideAscii(char16_t c) {
 }  // namespace
 
 TextView LTrim(TextView text) {
-    const auto first = text.find_first_not_of(kBlank);
-    return first == TextView::npos ? TextView() : text.substr(first);
+    return text.substr(SkipSpaces(text, 0));
 }
 
 TextView RTrim(TextView text) {
-    const auto last = text.find_last_not_of(kBlank);
-    return last == TextView::npos ? TextView() : text.substr(0, last + 1);
+    while (!text.empty() && text.back() == kBlank) text.remove_suffix(1);
+    return text;
 }
 
 TextView Trim(TextView text) {
