@@ -155,9 +155,8 @@ class ModuleWriter {
                 if (token.keyword() == Keyword::EndIf) return ReplaceIfOther(token, u"End If");
                 return ReplaceIfOther(token, Spelling(token.keyword()));
             case TokenKind::Operator:
-                // A single character of ASCII stands for no operator but its own, or for a "?".
-                if (token.length == 1 && text_[token.offset] < 128 && !token.Is(Operator::Question)) return;
-                return ReplaceIfOther(token, FormOf(token.op()));
+                if (token.Has(kRespelled)) Replace(token.offset, token.End(), FormOf(token.op()));
+                return;
             case TokenKind::EndOfText:
             case TokenKind::EndOfLine:
                 return;
@@ -173,7 +172,7 @@ class ModuleWriter {
         const Token& token = tokens_[index];
         if (token.Has(kBracketed)) return;
         const Token name = WithoutTypeCharacter(token);
-        if (!HasProjectCapitalisation(token)) return ReplaceIfOther(name, Spelling(token.keyword()));
+        if (!token.Has(kOfProject)) return ReplaceIfOther(name, Spelling(token.keyword()));
         if (capitalisation_ == nullptr) return;
         const bool isKeyword = token.id != 0 && StandsAsKeyword(tokens_, index, spacing_.StatementStart());
         ReplaceIfOther(name, isKeyword ? Spelling(token.keyword()) : capitalisation_->SpellingOf(NameOf(token, text_)));

@@ -24,29 +24,64 @@ Capitalisation::Capitalisation() {
 
 // A word is entered when it is met for the first time and when it is first declared; a third time would tell nothing.
 std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView text) {
+    ++module_;
+    held_.clear();
     DeclarationReader declarations;
-    std::vector<std::uint32_t> held;
-    ++modules_;
-    const auto enter = [&](const Token& token, bool declares) {
-        return names_.Add(NameOf(token, text), declares ? NameRank::Declared : NameRank::Met);
-    };
-    for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
-        const Token& token = tokens[i];
-        const bool declares = declarations.Declares(token, tokens[i + 1]);
-        if (!HasProjectCapitalisation(token)) continue;
-        if (token.word == kNoWord) {
-            held.push_back(enter(token, declares));
-            continue;
-        }
-        if (token.word >= words_.size()) words_.resize(2 * std::size_t{token.word} + 64);
-        Word& word = words_[token.word];
-        if (word.lastModule == modules_ && (word.isDeclared || !declares)) continue;
-        if (word.lastModule == 0 || (declares && !word.isDeclared)) word.name = enter(token, declares);
-        if (word.lastModule != modules_) held.push_back(word.name);
-        word.lastModule = modules_;
-        word.isDeclared |= declares;
+    const Token* first = tokens.begin();
+    bool startsLine = true;
+    for (const std::uint32_t place : FindPlaces(tokens, kEndsStatement, statementEnds_)) {
+        const Token* const end = tokens.begin() + place;
+        declarations.Read(first, end, startsLine, [&](const Token& token) { EnterDeclared(token, text); });
+        first = end + 1;
+        startsLine = end->Is(TokenKind::EndOfLine);
     }
-    return held;
+    for (const std::uint32_t place : FindPlaces(tokens, kOfProject, namePlaces_)) {
+        const Token& token = tokens[place];
+        const bool isKnown = token.word < words_.size() && words_[token.word].lastModule == module_;
+        if (!isKnown) EnterMet(token, text);
+    }
+    return std::move(held_);
+}
+
+// Which tokens have a flag is nothing that a processor can guess: a loop without a branch.
+std::span<const std::uint32_t> Capitalisation::FindPlaces(const Tokens& tokens, TokenFlag flag,
+                                                          std::vector<std::uint32_t>& places) {
+    if (places.size() < tokens.size()) places = std::vector<std::uint32_t>(tokens.size());
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < tokens.size(); ++i) {
+        places[count] = static_cast<std::uint32_t>(i);
+        count += tokens[i].Has(flag) ? 1 : 0;
+    }
+    return std::span(places).first(count);
+}
+
+Capitalisation::Word& Capitalisation::WordOf(const Token& token) {
+    if (token.word >= words_.size()) words_.resize(2 * std::size_t{token.word} + 64);
+    return words_[token.word];
+}
+
+void Capitalisation::EnterDeclared(const Token& token, TextView text) {
+    if (!token.Has(kOfProject)) return;
+    if (token.word == kNoWord) {
+        held_.push_back(names_.Add(NameOf(token, text), NameRank::Declared));
+        return;
+    }
+    Word& word = WordOf(token);
+    if (!word.isDeclared) word.name = names_.Add(NameOf(token, text), NameRank::Declared);
+    if (word.lastModule != module_) held_.push_back(word.name);
+    word.isDeclared = true;
+    word.lastModule = module_;
+}
+
+void Capitalisation::EnterMet(const Token& token, TextView text) {
+    if (token.word == kNoWord) {
+        held_.push_back(names_.Add(NameOf(token, text), NameRank::Met));
+        return;
+    }
+    Word& word = WordOf(token);
+    if (word.lastModule == 0) word.name = names_.Add(NameOf(token, text), NameRank::Met);
+    if (word.lastModule != module_) held_.push_back(word.name);
+    word.lastModule = module_;
 }
 
 }  // namespace zentlor::vba

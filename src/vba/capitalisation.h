@@ -4,6 +4,7 @@
 // the modules; without one that of the libraries; without that the first one met.
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "vba/spelling_table.h"
@@ -19,7 +20,7 @@ class Capitalisation {
     /// A name that is declared outside of the text: a component's.
     void LearnDeclared(TextView name) { names_.Add(name, NameRank::Declared); }
 
-    /// Takes the names of one module: its tokens with `HasProjectCapitalisation`. The order of the calls decides which
+    /// Takes the names of one module: its tokens with `kOfProject`. The order of the calls decides which
     /// declaration is the first. Returns the numbers of the names that the module holds, some of them repeatedly. The
     /// words of the tokens bear the numbers of one table in all calls.
     std::vector<std::uint32_t> Learn(const Tokens& tokens, TextView text);
@@ -40,16 +41,19 @@ class Capitalisation {
         bool isDeclared = false;
     };
 
-    SpellingTable names_;
-    std::uint32_t modules_ = 0;
-    std::vector<Word> words_;  // by the word's number
-};
+    static std::span<const std::uint32_t> FindPlaces(const Tokens& tokens, TokenFlag flag,
+                                                     std::vector<std::uint32_t>& places);
+    Word& WordOf(const Token& token);
+    void EnterDeclared(const Token& token, TextView text);
+    void EnterMet(const Token& token, TextView text);
 
-/// True for tokens whose capitalisation the project decides: names without brackets that are no fixed word of VBA, and
-/// members whatever word they are (`Debug.Print`).
-inline bool HasProjectCapitalisation(const Token& token) {
-    if (token.kind != TokenKind::Name || token.Has(kBracketed)) return false;
-    return token.id == 0 || token.Has(kMember) || IsContextual(token.keyword());
-}
+    SpellingTable names_;
+    std::vector<Word> words_;  // by the word's number
+    // Of the present module.
+    std::uint32_t module_ = 0;  // counted from 1
+    std::vector<std::uint32_t> held_;
+    std::vector<std::uint32_t> statementEnds_;  // indexes of tokens, and room behind them
+    std::vector<std::uint32_t> namePlaces_;     // the same
+};
 
 }  // namespace zentlor::vba

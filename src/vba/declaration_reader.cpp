@@ -4,6 +4,8 @@
 
 #include "vba/declaration_reader.h"
 
+#include <array>
+
 namespace zentlor::vba {
 namespace {
 
@@ -16,33 +18,57 @@ bool IsDeclarable(const Token& token) {
            (token.keyword() == Keyword::None || IsContextual(token.keyword()));
 }
 
+// The words with which a declaration may begin.
+constexpr auto kDeclaringWords = [] {
+    std::array<bool, kKeywordCount + 1> table{};
+    for (const Keyword keyword : {Keyword::Const, Keyword::Declare, Keyword::Dim, Keyword::Enum, Keyword::Event,
+                                  Keyword::Friend, Keyword::Function, Keyword::Global, Keyword::Private,
+                                  Keyword::Property, Keyword::Public, Keyword::Static, Keyword::Sub, Keyword::Type}) {
+        table[static_cast<std::size_t>(keyword)] = true;
+    }
+    return table;
+}();
+
 }  // namespace
 
-bool DeclarationReader::Read(const Token& token, const Token& following) {
+bool DeclarationReader::MayDeclare(const Token& first, const Token& following) const {
+    switch (first.kind) {
+        case TokenKind::Comment:
+        case TokenKind::EndOfLine:
+        case TokenKind::Operator:
+            return false;
+        case TokenKind::Name:
+        case TokenKind::Keyword:
+            return isInBlock_ || kDeclaringWords[first.id] || following.Is(Operator::Colon);
+        default:
+            return true;
+    }
+}
+
+void DeclarationReader::Start(bool startsLine) {
+    mode_ = Mode::Start;
+    isLineStart_ = startsLine;
+    expectsName_ = false;
+    depth_ = 0;
+}
+
+bool DeclarationReader::Declares(const Token& token, const Token& following) {
     switch (token.kind) {
         case TokenKind::Comment:
         case TokenKind::Continuation:
-            return false;
-        case TokenKind::EndOfLine:
-        case TokenKind::EndOfText:
-            StartLine();
             return false;
         case TokenKind::Directive:
             mode_ = token.keyword() == Keyword::Const ? Mode::List : Mode::Other;
             expectsName_ = true;
             return false;
         case TokenKind::Operator:
-            return ReadOperator(token);
+            ReadOperator(token);
+            return false;
         case TokenKind::Integer:
             if (mode_ != Mode::Start) expectsName_ = false;
             return false;
         default:
             break;
-    }
-    if (token.Is(Keyword::Then) || token.Is(Keyword::Else)) {
-        mode_ = Mode::Start;
-        isLineStart_ = false;
-        return false;
     }
     switch (mode_) {
         case Mode::Start:
@@ -62,19 +88,8 @@ bool DeclarationReader::Read(const Token& token, const Token& following) {
     return false;
 }
 
-void DeclarationReader::StartLine() {
-    mode_ = Mode::Start;
-    isLineStart_ = true;
-    expectsName_ = false;
-    depth_ = 0;
-}
-
-bool DeclarationReader::ReadOperator(const Token& token) {
+void DeclarationReader::ReadOperator(const Token& token) {
     switch (token.op()) {
-        case Operator::Colon:
-            StartLine();
-            isLineStart_ = false;
-            break;
         case Operator::OpenParenthesis:
             ++depth_;
             expectsName_ = mode_ == Mode::Parameters && depth_ == 1;
@@ -89,7 +104,6 @@ bool DeclarationReader::ReadOperator(const Token& token) {
             if (mode_ == Mode::Start) mode_ = Mode::Other;
             break;
     }
-    return false;
 }
 
 // `Sub`, `Function`, `Property Get`, `Declare`, `Event`, `Type`, `Enum`: what they declare comes behind them.

@@ -7,18 +7,24 @@
 
 namespace zentlor::vba {
 
-/// A walk over the tokens of one module from the first to the last.
+/// A walk over the statements of one module from the first to the last.
 class DeclarationReader {
   public:
-    /// Takes the next token; `following` is the one behind it. True if the token is a name that is declared here.
-    bool Declares(const Token& token, const Token& following) {
-        // Nearly all tokens stand in statements that declare nothing.
-        return (mode_ != Mode::Other || EndsStatement(token)) && Read(token, following);
+    /// Takes the next statement: the tokens from `first` to `end`, the line's end, colon, `Then` or `Else` behind it.
+    /// Calls `declare` for each name that is declared in it.
+    template <class Declare>
+    void Read(const Token* first, const Token* end, bool startsLine, Declare declare) {
+        // Nearly all statements declare nothing.
+        if (!MayDeclare(*first, first[1])) return;
+        Start(startsLine);
+        for (const Token* token = first; token != end; ++token) {
+            if (Declares(*token, token[1])) declare(*token);
+        }
     }
 
   private:
     enum class Mode : std::uint8_t {
-        Start,       // a statement begins
+        Start,       // the statement begins
         List,        // `Dim a, b`
         Header,      // in front of a procedure's name
         Parameters,  // behind a procedure's name
@@ -26,23 +32,14 @@ class DeclarationReader {
         Other,
     };
 
-    static bool EndsStatement(const Token& token) {
-        switch (token.kind) {
-            case TokenKind::EndOfLine:
-                return true;
-            case TokenKind::Keyword:
-                return token.keyword() == Keyword::Then || token.keyword() == Keyword::Else;
-            default:
-                return token.Is(Operator::Colon);
-        }
-    }
-    bool Read(const Token& token, const Token& following);
+    bool MayDeclare(const Token& first, const Token& following) const;
+    void Start(bool startsLine);
+    bool Declares(const Token& token, const Token& following);
     bool ReadStart(const Token& token, const Token& following);
     bool ReadList(const Token& token, const Token& following);
     bool ReadHeader(const Token& token, const Token& following);
     bool ReadParameter(const Token& token);
-    bool ReadOperator(const Token& token);
-    void StartLine();
+    void ReadOperator(const Token& token);
     bool EnterProcedure(const Token& token, const Token& following);
 
     Mode mode_ = Mode::Start;

@@ -83,35 +83,4 @@ bool IsRangeStatement(Keyword keyword) {
     return keyword >= Keyword::DefBool && keyword <= Keyword::DefVar;
 }
 
-bool IsTypeName(Keyword keyword) {
-    switch (keyword) {
-        case Keyword::Boolean:
-        case Keyword::Byte:
-        case Keyword::Currency:
-        case Keyword::Double:
-        case Keyword::Integer:
-        case Keyword::Long:
-        case Keyword::LongLong:
-        case Keyword::LongPtr:
-        case Keyword::Single:
-        case Keyword::Variant:
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool IsLiteralWord(Keyword keyword) {
-    switch (keyword) {
-        case Keyword::Empty:
-        case Keyword::False:
-        case Keyword::Nothing:
-        case Keyword::Null:
-        case Keyword::True:
-            return true;
-        default:
-            return false;
-    }
-}
-
 }  // namespace zentlor::vba

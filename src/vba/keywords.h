@@ -42,9 +42,36 @@ bool IsContextual(Keyword keyword);
 bool IsRangeStatement(Keyword keyword);
 
 /// True for the reserved words among the names of types: `Integer`, `Variant`.
-bool IsTypeName(Keyword keyword);
+constexpr bool IsTypeName(Keyword keyword) {
+    switch (keyword) {
+        case Keyword::Boolean:
+        case Keyword::Byte:
+        case Keyword::Currency:
+        case Keyword::Double:
+        case Keyword::Integer:
+        case Keyword::Long:
+        case Keyword::LongLong:
+        case Keyword::LongPtr:
+        case Keyword::Single:
+        case Keyword::Variant:
+            return true;
+        default:
+            return false;
+    }
+}
 
 /// True for the words that are values: `True`, `Nothing`.
-bool IsLiteralWord(Keyword keyword);
+constexpr bool IsLiteralWord(Keyword keyword) {
+    switch (keyword) {
+        case Keyword::Empty:
+        case Keyword::False:
+        case Keyword::Nothing:
+        case Keyword::Null:
+        case Keyword::True:
+            return true;
+        default:
+            return false;
+    }
+}
 
 }  // namespace zentlor::vba

@@ -14,7 +14,7 @@ class BranchSelector {
         : text_(text), branches_(branches), faults_(faults), constants_(settings) {}
 
     Tokens Select(const Tokens& tokens) {
-        selected_.reserve(tokens.size());
+        selected_.Reset(tokens.size());
         const Token* token = tokens.data();
         while (!token->Is(TokenKind::EndOfText)) {
             const Token* end = token;
@@ -22,11 +22,11 @@ class BranchSelector {
             if (token->Is(TokenKind::Directive)) {
                 Read(token);
             } else if (IsCopied()) {
-                selected_.insert(selected_.end(), token, end + 1);
+                selected_.Append(token, end + 1);
             }
             token = end + 1;
         }
-        selected_.push_back(*token);
+        selected_.Append(*token);
         if (!levels_.empty()) Note(Fault::DirectiveNotClosed, *levels_.back().opener);
         return std::move(selected_);
     }

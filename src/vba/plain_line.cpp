@@ -1,10 +1,10 @@
-// One walk over the line that knows the common cases of `Spacing` and of the writer, and gives up at all others. It may
-// give up where nothing is wrong, never the other way round.
+// One walk over the line with a table of the common cases. Where the table does not tell, or anything stands otherwise
+// than it says, the walk gives up. It may do so where nothing is wrong, never the other way round.
 
 #include "vba/plain_line.h"
 
-#include "vba/capitalisation.h"
 #include "vba/header_parentheses.h"
+#include "vba/plain_line_rules.h"
 #include "vba/token_form.h"
 
 namespace zentlor::vba {
@@ -13,206 +13,116 @@ namespace {
 class PlainLine {
   public:
     PlainLine(const Tokens& tokens, TextView text, std::size_t first)
-        : tokens_(tokens.data()), text_(text.data()), first_(first), statement_(first) {}
+        : tokens_(tokens), text_(text.data()), first_(tokens.begin() + first), statement_(first_) {}
 
-    std::size_t FindEnd(const Tokens& tokens) {
-        if (tokens_[first_].keyword() == Keyword::Attribute) return kNoToken;
-        std::size_t end = first_ == 0 ? 0 : tokens_[first_ - 1].End();
-        for (at_ = first_; tokens_[at_].kind != TokenKind::EndOfLine; ++at_) {
-            const Token& token = tokens_[at_];
-            gapStart_ = end;
-            gap_ = token.offset - end;
-            if (startsPhysicalLine_ && !IsBlank()) return kNoToken;
-            if (!Take(token)) return kNoToken;
-            end = token.End();
+    // The line's end, or null.
+    const Token* FindEnd() {
+        const Token* token = first_;
+        std::size_t gapStart = token == tokens_.begin() ? 0 : token[-1].End();
+        while (token->kind != TokenKind::EndOfLine) {
+            if (!Take(*token, gapStart)) return nullptr;
+            if (!startsPhysicalLine_) token = SkipPlain(token);
+            gapStart = token->End();
+            ++token;
         }
-        gapStart_ = end;
-        gap_ = tokens_[at_].offset - end;
-        if (startsPhysicalLine_ ? !IsBlank() : gap_ != 0) return kNoToken;
-        return FindMissingParentheses(tokens, first_, at_).behind == kNoToken ? at_ : kNoToken;
+        const std::size_t gap = token->offset - gapStart;
+        return (startsPhysicalLine_ ? IsBlank(gapStart, gap) : gap == 0) ? token : nullptr;
     }
 
   private:
-    // What the token before has to do with the gap behind it, continuations left out.
-    enum class Before : std::uint8_t {
-        Nothing,  // the line begins
-        Name,
-        Keyword,
-        Literal,
-        Close,  // ")"
-        Comma,
-        Mark,   // an operator that stands apart from what follows
-        Tight,  // an operator to which clings what follows
-    };
-
-    bool Take(const Token& token) {
-        switch (token.kind) {
-            case TokenKind::Name:
-                return TakeName(token);
-            case TokenKind::Keyword:
-                return TakeKeyword(token);
-            case TokenKind::Operator:
-                return TakeOperator(token);
-            case TokenKind::String:
-                return !token.Has(kUnterminated) && TakeLiteral();
-            case TokenKind::Integer:
-                return before_ != Before::Nothing && HasForm(token) && TakeLiteral();
-            case TokenKind::Hexadecimal:
-            case TokenKind::Octal:
-            case TokenKind::Float:
-            case TokenKind::Date:
-                return HasForm(token) && TakeLiteral();
-            case TokenKind::Comment:
-                return TakeComment(token);
-            case TokenKind::Continuation:
-                return TakeContinuation(token);
-            default:
-                return false;
+    // The last one of the tokens behind `token` that stand as the table wants it.
+    const Token* SkipPlain(const Token* token) {
+        Before before = before_;
+        for (;; ++token) {
+            const Token& next = token[1];
+            const Piece piece = kPieceTable.Of(next);
+            const Rule rule = kRows[static_cast<std::size_t>(before)][static_cast<std::size_t>(piece)];
+            const std::size_t gap = next.offset - token->End();
+            if (gap != rule.gap || piece >= Piece::LineEnd || NeedsOtherLetters(next)) break;
+            if (gap != 0 && (gap != 1 || text_[token->End()] != u' ')) break;
+            before = rule.next;
         }
-    }
-
-    bool HasForm(const Token& token) const { return vba::HasForm(token, TextView(text_ + token.offset, token.length)); }
-
-    // Whether the gap holds nothing but simple blanks.
-    bool IsBlank() const { return SkipSpaces(TextView(text_ + gapStart_, gap_), 0) == gap_; }
-    bool IsOneBlank() const { return gap_ == 1 && text_[gapStart_] == u' '; }
-    bool HasGapOfWord() const { return startsPhysicalLine_ || (before_ == Before::Tight ? gap_ == 0 : IsOneBlank()); }
-
-    bool Become(Before before) {
         before_ = before;
-        startsPhysicalLine_ = false;
-        return true;
+        return token;
     }
 
-    void StartStatement() {
-        if (!startsStatement_) return;
-        startsStatement_ = false;
-        statement_ = at_;
-        const Token& token = tokens_[at_];
-        isInHead_ = token.kind == TokenKind::Name || token.Is(Operator::Dot) || token.Is(Operator::Bang);
-    }
-
-    bool TakeName(const Token& token) {
-        StartStatement();
-        if (!HasGapOfWord()) return false;
-        if (before_ == Before::Name) isInHead_ = false;
-        return token.id == 0 ? Become(Before::Name) : TakeContextualWord(token);
-    }
-
-    bool TakeContextualWord(const Token& token) {
-        if (token.Is(Keyword::Go)) return false;
-        if (token.Has(kRespelled) && !token.Has(kBracketed) && !HasProjectCapitalisation(token)) return false;
-        const bool isStep = token.Is(Keyword::Step) && tokens_[statement_].Is(Keyword::For);
-        return Become(isStep ? Before::Keyword : Before::Name);
-    }
-
-    bool TakeKeyword(const Token& token) {
-        StartStatement();
-        if (!HasGapOfWord() || token.Has(kRespelled)) return false;
-        isInHead_ = false;
-        startsStatement_ = token.Is(Keyword::Then) || token.Is(Keyword::Else);
-        return Become(IsLiteralWord(token.keyword()) ? Before::Literal : Before::Keyword);
-    }
-
-    bool TakeLiteral() {
-        StartStatement();
-        isInHead_ = false;
-        return HasGapOfWord() && Become(Before::Literal);
-    }
-
-    bool TakeComment(const Token& token) {
-        if (token.keyword() == Keyword::Rem || !(startsPhysicalLine_ || (gap_ > 0 && IsBlank()))) return false;
-        isInComment_ = true;
-        startsPhysicalLine_ = false;
-        return true;
-    }
-
-    bool TakeContinuation(const Token& token) {
-        if (!isInComment_ && !startsPhysicalLine_ && !IsOneBlank()) return false;
-        startsPhysicalLine_ = true;
-        return token.length == 2 && text_[token.offset + 1] == u'\n';
-    }
-
-    bool TakeOperator(const Token& token) {
-        StartStatement();
-        if (token.length > 1 ? !IsSame({text_ + token.offset, token.length}, FormOf(token.op()))
-                             : text_[token.offset] >= 128) {
+    bool Take(const Token& token, std::size_t gapStart) {
+        const Piece piece = kPieceTable.Of(token);
+        const Rule rule = kRows[static_cast<std::size_t>(before_)][static_cast<std::size_t>(piece)];
+        const std::size_t gap = token.offset - gapStart;
+        if (rule.gap == kGiveUp || NeedsOtherLetters(token)) return false;
+        if (startsPhysicalLine_ || rule.gap == kSome) {
+            if (!IsBlank(gapStart, gap) || (!startsPhysicalLine_ && gap == 0)) return false;
+        } else if (rule.gap != gap || !IsBlank(gapStart, gap)) {
             return false;
         }
-        switch (token.op()) {
-            case Operator::OpenParenthesis:
-                return TakeOpenParenthesis();
-            case Operator::CloseParenthesis:
-                return HasGap(before_ == Before::Comma ? 1 : 0) && Become(Before::Close);
-            case Operator::Comma:
-            case Operator::Semicolon:
-                return TakeListMark(token);
-            case Operator::Dot:
-            case Operator::Bang:
-                return HasGap(before_ == Before::Name || before_ == Before::Close ? 0 : 1) && Become(Before::Tight);
-            case Operator::Colon:
-                return HasGap(0) && tokens_[at_ + 1].Is(TokenKind::EndOfLine) && Become(Before::Mark);
-            case Operator::Assign:
-                return HasGap(0) && Become(Before::Tight);
-            case Operator::Hash:
-                return HasGap(1) && Become(Before::Tight);
-            case Operator::Plus:
-            case Operator::Minus:
-                return TakeSign();
-            case Operator::Question:
-                return false;
+        if (piece >= Piece::LineEnd && !TakeOdd(piece, token)) return false;
+        const bool isStep = token.Is(Keyword::Step) && Statement().Is(Keyword::For);
+        before_ = isStep ? Before::Keyword : rule.next;
+        startsPhysicalLine_ = piece == Piece::Continuation;
+        return true;
+    }
+
+    static bool NeedsOtherLetters(const Token& token) {
+        return (token.flags & (kRespelled | kUnterminated)) != 0 && !token.Has(kOfProject);
+    }
+
+    bool IsBlank(std::size_t from, std::size_t length) const {
+        return SkipSpaces(TextView(text_ + from, length), 0) == length;
+    }
+
+    // Whether the walk may go on behind a piece that the table does not tell everything about.
+    bool TakeOdd(Piece piece, const Token& token) {
+        switch (piece) {
+            case Piece::StatementWord:
+                statement_ = &token + 1;
+                return true;
+            case Piece::OddName:
+                return !token.Is(Keyword::Go) && !(token.Is(Keyword::Attribute) && &token == first_);
+            case Piece::LineNumber:
+            case Piece::Number:
+                return HasForm(token, TextView(text_ + token.offset, token.length));
+            case Piece::Colon:
+                return (&token)[1].Is(TokenKind::EndOfLine);
+            case Piece::Sign:
+                return !(before_ == Before::Close && MayJoinPoints((&token)[1])) &&
+                       !IsRangeStatement(Statement().keyword());
+            case Piece::Comment:
+                return token.keyword() != Keyword::Rem;
+            case Piece::Continuation:
+                return token.length == 2 && text_[token.offset + 1] == u'\n';
             default:
-                isInHead_ = false;
-                return HasGap(1) && Become(Before::Mark);
+                return false;
         }
     }
 
-    bool HasGap(std::size_t wanted) const {
-        if (startsPhysicalLine_) return true;
-        return wanted == 0 || before_ == Before::Tight ? gap_ == 0 : IsOneBlank();
+    // The first token of the present statement.
+    const Token& Statement() const {
+        const Token* first = statement_;
+        while (first->kind == TokenKind::Continuation) ++first;
+        return *first;
     }
 
-    // A call's argument stands apart, and so does what follows most keywords; it takes the rules to tell.
-    bool TakeOpenParenthesis() {
-        if (isInHead_ || before_ == Before::Nothing) return false;
-        if (before_ == Before::Keyword && IsTypeName(tokens_[at_ - 1].keyword())) return false;
-        return HasGap(before_ == Before::Name || before_ == Before::Close ? 0 : 1) && Become(Before::Tight);
+    // Behind ")" and "-": `Line (0, 0)-(9, 9)`, `Line (0, 0)-Step(9, 9)`.
+    static bool MayJoinPoints(const Token& next) {
+        return next.Is(Operator::OpenParenthesis) || next.Is(Keyword::Step);
     }
 
-    bool TakeListMark(const Token& token) {
-        if (isInHead_ || before_ == Before::Nothing || before_ == Before::Keyword) return false;
-        return HasGap(before_ == Before::Comma ? 1 : 0) &&
-               Become(token.Is(Operator::Comma) ? Before::Comma : Before::Mark);
-    }
-
-    bool TakeSign() {
-        const Token& next = tokens_[at_ + 1];
-        const bool mayJoinPoints =
-            before_ == Before::Close && (next.Is(Operator::OpenParenthesis) || next.Is(Keyword::Step));
-        if (mayJoinPoints || IsRangeStatement(tokens_[statement_].keyword())) return false;
-        if (isInHead_ || before_ == Before::Nothing) return false;
-        const bool isSign = before_ != Before::Name && before_ != Before::Literal && before_ != Before::Close;
-        return HasGap(1) && Become(isSign ? Before::Tight : Before::Mark);
-    }
-
-    const Token* tokens_;
+    const Tokens& tokens_;
     const char16_t* text_;
-    std::size_t first_;
-    std::size_t at_ = 0;
-    std::size_t statement_;
-    std::size_t gapStart_ = 0;
-    std::size_t gap_ = 0;
+    const Token* first_;
+    const Token* statement_;  // where it begins, or a continuation in front of it
     Before before_ = Before::Nothing;
     bool startsPhysicalLine_ = true;
-    bool startsStatement_ = true;
-    bool isInHead_ = false;  // in the chain of names at the statement's start
-    bool isInComment_ = false;
 };
 
 }  // namespace
 
 std::size_t FindEndOfPlainLine(const Tokens& tokens, TextView text, std::size_t first) {
-    return PlainLine(tokens, text, first).FindEnd(tokens);
+    const Token* const end = PlainLine(tokens, text, first).FindEnd();
+    if (end == nullptr) return kNoToken;
+    const auto index = static_cast<std::size_t>(end - tokens.begin());
+    return FindMissingParentheses(tokens, first, index).behind == kNoToken ? index : kNoToken;
 }
 
 }  // namespace zentlor::vba

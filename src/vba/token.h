@@ -4,8 +4,12 @@
 // belong to no token; every other character belongs to exactly one. Each physical line's end lies in one `EndOfLine`,
 // to which the empty lines behind it belong, or in one `Continuation`.
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
+#include <new>
+#include <type_traits>
 
 #include "core/analysis/words.h"
 #include "core/utilities/text.h"
@@ -61,11 +65,15 @@ enum class Operator : std::uint16_t {
 
 /// Facts about one token, as bits of `Token::flags`.
 enum TokenFlag : std::uint8_t {
-    kMember = 1,         ///< Name directly behind "." or "!": a member whatever the word is.
-    kTypeCharacter = 2,  ///< Name whose last character is one of "%&^!#@$".
-    kBracketed = 4,      ///< Name in brackets: `[Name]`; the brackets are part of the token.
-    kUnterminated = 8,   ///< String whose closing mark is missing: it ends with its line.
-    kRespelled = 16,     ///< Word in which the editor would change letters if it stood for its keyword.
+    kMember = 1,          ///< Name directly behind "." or "!": a member whatever the word is.
+    kTypeCharacter = 2,   ///< Name whose last character is one of "%&^!#@$".
+    kBracketed = 4,       ///< Name in brackets: `[Name]`; the brackets are part of the token.
+    kUnterminated = 8,    ///< String whose closing mark is missing: it ends with its line.
+    kRespelled = 16,      ///< Operator in which the editor would change characters; word in which it would change
+                          ///< letters if it stood for its keyword.
+    kOfProject = 32,      ///< Name whose capitalisation the project decides: without brackets and no fixed word of VBA,
+                          ///< or a member whatever word it is (`Debug.Print`).
+    kEndsStatement = 64,  ///< A line's end, a colon, `Then`, `Else`.
 };
 
 /// Positions and lengths are in UTF-16 code units from the text's start.
@@ -88,9 +96,44 @@ struct Token {
     std::uint32_t End() const { return offset + length; }
 };
 
-static_assert(sizeof(Token) == 16);
+static_assert(sizeof(Token) == 16 && std::is_trivially_copyable_v<Token>);
 
-using Tokens = std::vector<Token>;
+/// The tokens of a text, one behind the other. There is room for as many as were asked for, and no more; what of it is
+/// never written costs nothing.
+class Tokens {
+  public:
+    /// No tokens, and room for `most`. Memory is used again.
+    void Reset(std::size_t most) {
+        end_ = memory_.get();
+        if (most <= room_) return;
+        memory_.reset();  // first, so that both are never held
+        memory_.reset(static_cast<Token*>(::operator new(most * sizeof(Token))));
+        room_ = most;
+        end_ = memory_.get();
+    }
+    void Append(const Token& token) { *end_++ = token; }
+    void Append(const Token* first, const Token* last) { end_ = std::copy(first, last, end_); }
+
+    /// For a writer that goes on at the end and says then where it stopped.
+    Token* end() { return end_; }
+    void SetEnd(Token* end) { end_ = end; }
+
+    const Token* begin() const { return memory_.get(); }
+    const Token* end() const { return end_; }
+    const Token* data() const { return begin(); }
+    std::size_t size() const { return static_cast<std::size_t>(end() - begin()); }
+    const Token& operator[](std::size_t index) const { return begin()[index]; }
+    const Token& back() const { return end()[-1]; }
+
+  private:
+    struct Free {
+        void operator()(Token* memory) const { ::operator delete(memory); }
+    };
+
+    std::unique_ptr<Token, Free> memory_;
+    Token* end_ = nullptr;
+    std::size_t room_ = 0;
+};
 
 inline TextView TextOf(const Token& token, TextView text) {
     return text.substr(token.offset, token.length);

@@ -30,6 +30,7 @@ enum class Start : std::uint8_t {
 
 struct StartEntry {
     Start start = Start::Unknown;
+    std::uint8_t flags = 0;  // of the token that the character makes alone
     Operator single = Operator::None;
 };
 
@@ -48,22 +49,22 @@ constexpr std::array<StartEntry, 128> MakeStarts() {
     table[u'#'].start = Start::Hash;
     table[u'&'].start = Start::Ampersand;
     table[u'.'].start = Start::Dot;
-    table[u':'] = {Start::Pair, Operator::Colon};
-    table[u'='] = {Start::Pair, Operator::Equal};
-    table[u'<'] = {Start::Pair, Operator::Less};
-    table[u'>'] = {Start::Pair, Operator::Greater};
-    table[u'+'] = {Start::Single, Operator::Plus};
-    table[u'-'] = {Start::Single, Operator::Minus};
-    table[u'*'] = {Start::Single, Operator::Times};
-    table[u'/'] = {Start::Single, Operator::Divide};
-    table[u'\\'] = {Start::Single, Operator::IntegerDivide};
-    table[u'^'] = {Start::Single, Operator::Power};
-    table[u','] = {Start::Single, Operator::Comma};
-    table[u';'] = {Start::Single, Operator::Semicolon};
-    table[u'!'] = {Start::Single, Operator::Bang};
-    table[u'('] = {Start::Single, Operator::OpenParenthesis};
-    table[u')'] = {Start::Single, Operator::CloseParenthesis};
-    table[u'?'] = {Start::Single, Operator::Question};
+    table[u':'] = {Start::Pair, kEndsStatement, Operator::Colon};
+    table[u'='] = {Start::Pair, 0, Operator::Equal};
+    table[u'<'] = {Start::Pair, 0, Operator::Less};
+    table[u'>'] = {Start::Pair, 0, Operator::Greater};
+    table[u'+'] = {Start::Single, 0, Operator::Plus};
+    table[u'-'] = {Start::Single, 0, Operator::Minus};
+    table[u'*'] = {Start::Single, 0, Operator::Times};
+    table[u'/'] = {Start::Single, 0, Operator::Divide};
+    table[u'\\'] = {Start::Single, 0, Operator::IntegerDivide};
+    table[u'^'] = {Start::Single, 0, Operator::Power};
+    table[u','] = {Start::Single, 0, Operator::Comma};
+    table[u';'] = {Start::Single, 0, Operator::Semicolon};
+    table[u'!'] = {Start::Single, 0, Operator::Bang};
+    table[u'('] = {Start::Single, 0, Operator::OpenParenthesis};
+    table[u')'] = {Start::Single, 0, Operator::CloseParenthesis};
+    table[u'?'] = {Start::Single, kRespelled, Operator::Question};
     return table;
 }
 inline constexpr std::array<StartEntry, 128> kStarts = MakeStarts();
@@ -72,7 +73,7 @@ inline constexpr std::array<StartEntry, 128> kStarts = MakeStarts();
 inline StartEntry StartOf(char16_t c) {
     const char16_t folded = FoldWidth(c);
     if (folded < 128) return kStarts[folded];
-    return {HasTrait(folded, kNameStart) ? Start::Word : Start::Unknown, Operator::None};
+    return {HasTrait(folded, kNameStart) ? Start::Word : Start::Unknown, 0, Operator::None};
 }
 
 }  // namespace zentlor::vba

@@ -8,6 +8,7 @@
 #include "core/utilities/character_blocks.h"
 #include "vba/characters.h"
 #include "vba/date_literal.h"
+#include "vba/token_form.h"
 #include "vba/token_start.h"
 
 namespace zentlor::vba {
@@ -20,19 +21,14 @@ class Scanner {
           nextWord_(words.data()),
           endOfWords_(words.data() + words.size()),
           meanings_(meanings),
-          tokens_(tokens) {
-        LookAtWord();
-    }
+          tokens_(tokens) {}
 
     void Run() {
         while (at_ < text_.size()) {
-            if (text_[at_] == u' ') {
-                ++at_;
-            } else if (!TakeKnownWord()) {
-                ScanToken();
-            }
+            TakePlainTokens();
+            if (at_ < text_.size()) ScanToken();
         }
-        if (!tokens_.empty() && tokens_.back().kind != TokenKind::EndOfLine) Add(TokenKind::EndOfLine, 0);
+        if (tokens_.size() > 0 && tokens_.back().kind != TokenKind::EndOfLine) AddLineEnd(0);
         Add(TokenKind::EndOfText, 0);
     }
 
@@ -56,19 +52,95 @@ class Scanner {
 
     void Add(TokenKind kind, std::size_t length, std::uint16_t id = 0, std::uint8_t flags = 0,
              std::uint32_t word = kNoWord) {
-        Token token;
-        token.offset = static_cast<std::uint32_t>(at_);
-        token.length = static_cast<std::uint32_t>(length);
-        token.kind = kind;
-        token.flags = flags;
-        token.id = id;
-        token.word = word;
-        tokens_.push_back(token);
+        const Token token{static_cast<std::uint32_t>(at_), static_cast<std::uint32_t>(length), kind, flags, id, word};
+        tokens_.Append(token);
         if (kind != TokenKind::Continuation) previous_ = token;
         at_ += length;
     }
     void AddOperator(Operator op, std::size_t length) {
-        Add(TokenKind::Operator, length, static_cast<std::uint16_t>(op));
+        const bool isRespelled = !IsSame(text_.substr(at_, length), FormOf(op));
+        const std::uint8_t flags = static_cast<std::uint8_t>((isRespelled ? kRespelled : 0) | FlagsOf(op));
+        Add(TokenKind::Operator, length, static_cast<std::uint16_t>(op), flags);
+    }
+    void AddLineEnd(std::size_t length) { Add(TokenKind::EndOfLine, length, 0, kEndsStatement); }
+    static std::uint8_t FlagsOf(Operator op) { return op == Operator::Colon ? kEndsStatement : 0; }
+
+    // Where the walk stands.
+    struct Cursor {
+        std::size_t at;         // in the text
+        const WordPlace* word;  // the first one that does not begin in front of it
+        Token* end;             // behind the last token
+        const Token* previous;  // the last token that is no continuation
+    };
+
+    void TakePlainTokens() {
+        const Cursor cursor = BehindPlainTokens({at_, nextWord_, tokens_.end(), &previous_});
+        at_ = cursor.at;
+        nextWord_ = cursor.word;
+        tokens_.SetEnd(cursor.end);
+        previous_ = *cursor.previous;
+    }
+
+    // The loop for what most of a text is: words that were met before, single characters that stand for themselves,
+    // decimal numbers, line ends and blanks. Stops in front of anything else.
+    Cursor BehindPlainTokens(Cursor cursor) const {
+        const TextView text = text_;
+        const std::span<const WordMeaning> meanings(meanings_);
+        const auto add = [&](const Token& token) {
+            *cursor.end = token;
+            cursor.previous = cursor.end++;
+            cursor.at += token.length;
+        };
+        while (cursor.at < text.size()) {
+            const char16_t c = text[cursor.at];
+            if (c >= kStarts.size()) return cursor;
+            const auto offset = static_cast<std::uint32_t>(cursor.at);
+            const StartEntry entry = kStarts[c];
+            switch (entry.start) {
+                case Start::Blank:
+                    ++cursor.at;
+                    break;
+                case Start::Word: {
+                    while (cursor.word != endOfWords_ && cursor.word->offset < offset) ++cursor.word;
+                    if (cursor.word == endOfWords_ || cursor.word->offset != offset) return cursor;
+                    const std::uint32_t number = cursor.word->number;
+                    if (number >= meanings.size()) return cursor;
+                    const WordMeaning word = meanings[number];
+                    const std::size_t end = offset + word.length;
+                    const char16_t behind = end < text.size() ? text[end] : u'\n';
+                    const bool endsHere = behind < 128 && (kCharacterTable[behind] & kTypeMark) == 0;
+                    if (!endsHere || word.length == 0) return cursor;
+                    const auto id = static_cast<std::uint16_t>(word.keyword);
+                    if (IsPoint(*cursor.previous)) {
+                        add({offset, word.length, TokenKind::Name, MemberFlags(word), id, number});
+                    } else if (word.kind != TokenKind::Comment) {
+                        add({offset, word.length, word.kind, word.flags, id, number});
+                    } else {
+                        return cursor;
+                    }
+                    ++cursor.word;
+                    break;
+                }
+                case Start::Single:
+                    add({offset, 1, TokenKind::Operator, entry.flags, static_cast<std::uint16_t>(entry.single)});
+                    break;
+                case Start::LineEnd: {
+                    std::size_t end = offset + 1;
+                    while (end < text.size() && text[end] == u'\n') ++end;
+                    add({offset, static_cast<std::uint32_t>(end - offset), TokenKind::EndOfLine, kEndsStatement});
+                    cursor.at = SkipSpaces(text, cursor.at);
+                    break;
+                }
+                default:
+                    return cursor;
+            }
+        }
+        return cursor;
+    }
+
+    static bool IsPoint(const Token& token) { return token.Is(Operator::Dot) || token.Is(Operator::Bang); }
+    static std::uint8_t MemberFlags(const WordMeaning& word) {
+        return static_cast<std::uint8_t>((word.flags & kRespelled) | kMember | kOfProject);
     }
 
     void ScanToken() {
@@ -109,46 +181,17 @@ class Scanner {
     void ScanLineEnds() {
         std::size_t end = at_ + 1;
         while (end < text_.size() && text_[end] == u'\n') ++end;
-        Add(TokenKind::EndOfLine, end - at_);
+        AddLineEnd(end - at_);
         at_ = SkipSpaces(text_, at_);
-    }
-
-    void LookAtWord() { wordAt_ = nextWord_ == endOfWords_ ? kNowhere : nextWord_->offset; }
-    void GoToNextWord() {
-        ++nextWord_;
-        LookAtWord();
-    }
-
-    // Most tokens are words that were met before, with nothing behind them that could belong to them. False if no such
-    // one stands here.
-    bool TakeKnownWord() {
-        while (wordAt_ < at_) GoToNextWord();
-        if (wordAt_ != at_) return false;
-        const std::uint32_t number = nextWord_->number;
-        if (number >= meanings_.size() || meanings_[number].length == 0) return false;
-        const WordMeaning word = meanings_[number];
-        const std::size_t end = at_ + word.length;
-        const char16_t behind = end < text_.size() ? text_[end] : u'\n';
-        if (behind >= 128 || (kCharacterTable[behind] & kTypeMark) != 0) return false;
-        if (previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang)) {
-            Add(TokenKind::Name, word.length, static_cast<std::uint16_t>(word.keyword), word.flags | kMember, number);
-        } else if (!word.isReserved) {
-            Add(TokenKind::Name, word.length, static_cast<std::uint16_t>(word.keyword), word.flags, number);
-        } else if (word.keyword != Keyword::Rem) {
-            Add(TokenKind::Keyword, word.length, static_cast<std::uint16_t>(word.keyword), word.flags, number);
-        } else {
-            return false;
-        }
-        return true;
     }
 
     void ScanWord() {
         std::uint32_t number = kNoWord;
         const WordMeaning word = MeaningHere(number);
         std::size_t end = at_ + word.length;
-        std::uint8_t flags = word.flags;
-        if (previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang)) flags |= kMember;
-        const bool isKeyword = word.isReserved && (flags & kMember) == 0;
+        const bool isMember = IsPoint(previous_);
+        std::uint8_t flags = isMember ? MemberFlags(word) : word.flags;
+        const bool isKeyword = word.kind != TokenKind::Name && !isMember;
         if (!isKeyword && IsTypeCharacter(end, word.keyword)) {
             flags |= kTypeCharacter;
             ++end;
@@ -161,7 +204,8 @@ class Scanner {
     // The word that begins here. Its number, if it has one: words with foreign letters are not in the project's table,
     // or only parts of them.
     WordMeaning MeaningHere(std::uint32_t& number) {
-        if (wordAt_ != at_) return ReadWord();
+        while (nextWord_ != endOfWords_ && nextWord_->offset < at_) ++nextWord_;
+        if (nextWord_ == endOfWords_ || nextWord_->offset != at_) return ReadWord();
         if (nextWord_->number >= meanings_.size()) meanings_.resize(2 * std::size_t{nextWord_->number} + 64);
         WordMeaning& known = meanings_[nextWord_->number];
         if (known.length == 0) {
@@ -297,7 +341,7 @@ class Scanner {
         if (!isClosed) unclosedUntil_ = end;
         if (!isClosed || end == at_ + 1) return Add(TokenKind::Unknown, 1);
         end = OuterBracket(end);
-        const bool isMember = previous_.Is(Operator::Dot) || previous_.Is(Operator::Bang);
+        const bool isMember = IsPoint(previous_);
         Add(TokenKind::Name, end + 1 - at_, 0, static_cast<std::uint8_t>(kBracketed | (isMember ? kMember : 0)));
     }
 
@@ -316,7 +360,7 @@ class Scanner {
     }
 
     void ScanHash() {
-        const bool isFirst = tokens_.empty() || tokens_.back().kind == TokenKind::EndOfLine;
+        const bool isFirst = tokens_.size() == 0 || tokens_.back().kind == TokenKind::EndOfLine;
         if (isFirst && ScanDirective()) return;
         const std::size_t length = OpensFileNumber() ? 0 : DateLiteralLength(text_.substr(at_));
         if (length > 0) return Add(TokenKind::Date, length);
@@ -416,12 +460,9 @@ class Scanner {
         return Operator::None;
     }
 
-    static constexpr std::size_t kNowhere = TextView::npos;
-
     TextView text_;
     const WordPlace* nextWord_;  // the first one that does not begin in front of `at_`
     const WordPlace* endOfWords_;
-    std::size_t wordAt_ = kNowhere;  // where it begins
     std::vector<WordMeaning>& meanings_;
     Tokens& tokens_;
     std::size_t at_ = 0;
@@ -433,9 +474,7 @@ class Scanner {
 }  // namespace
 
 void Tokenizer::Read(TextView text, std::span<const WordPlace> words, Tokens& tokens) {
-    tokens.clear();
-    // Growing would hold the tokens of a large module twice; what is reserved and never written costs nothing.
-    tokens.reserve(text.size() + 2);
+    tokens.Reset(text.size() + 2);
     Scanner(text, words, meanings_, tokens).Run();
 }
 

@@ -3,7 +3,6 @@
 #include <iterator>
 
 #include "vba/characters.h"
-#include "vba/token.h"
 
 namespace zentlor::vba {
 
@@ -11,10 +10,13 @@ WordMeaning MeaningOf(TextView word) {
     WordMeaning meaning;
     meaning.length = static_cast<std::uint32_t>(word.size());
     meaning.keyword = KeywordOf(word);
-    meaning.isReserved = IsReserved(meaning.keyword);
+    if (IsReserved(meaning.keyword)) meaning.kind = TokenKind::Keyword;
+    if (meaning.keyword == Keyword::Rem) meaning.kind = TokenKind::Comment;
     const bool isRespelled =
         meaning.keyword == Keyword::EndIf || (meaning.keyword != Keyword::None && word != Spelling(meaning.keyword));
-    if (isRespelled) meaning.flags = kRespelled;
+    if (isRespelled) meaning.flags |= kRespelled;
+    if (meaning.keyword == Keyword::None || IsContextual(meaning.keyword)) meaning.flags |= kOfProject;
+    if (meaning.keyword == Keyword::Then || meaning.keyword == Keyword::Else) meaning.flags |= kEndsStatement;
     return meaning;
 }
 

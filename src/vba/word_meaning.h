@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "core/utilities/text.h"
-#include "vba/keywords.h"
+#include "vba/token.h"
 
 namespace zentlor::vba {
 
@@ -11,8 +11,8 @@ namespace zentlor::vba {
 struct WordMeaning {
     std::uint32_t length = 0;  ///< in characters; 0 while nothing is known of the word
     Keyword keyword = Keyword::None;
-    bool isReserved = false;
-    std::uint8_t flags = 0;  ///< `kRespelled` or none, see token.h
+    TokenKind kind = TokenKind::Name;  ///< `Keyword` for a reserved word, and `Comment` for `Rem`
+    std::uint8_t flags = 0;            ///< of the word's token, unless it is a member; see token.h
 };
 
 WordMeaning MeaningOf(TextView word);
