@@ -35,8 +35,9 @@ bool DeclarationReader::MayDeclare(const Token& first, const Token& following) c
     switch (first.kind) {
         case TokenKind::Comment:
         case TokenKind::EndOfLine:
-        case TokenKind::Operator:
             return false;
+        case TokenKind::Operator:
+            return !first.Is(Operator::Dot) && !first.Is(Operator::Bang);
         case TokenKind::Name:
         case TokenKind::Keyword:
             return isInBlock_ || kDeclaringWords[first.id] || following.Is(Operator::Colon);
