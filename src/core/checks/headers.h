@@ -11,7 +11,7 @@ namespace zentlor::checks {
 
 /// A procedure's header as a logical line, with the number of its physical lines.
 struct HeaderText {
-    Text text;
+    LogicalText text;
     int lineCount = 0;
 };
 inline HeaderText ReadHeader(const VBComponent& vbc, const Procedure& procedure) {

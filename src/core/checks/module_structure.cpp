@@ -81,7 +81,7 @@ void ModDefTypeWirdVerwendet(const VBComponent& vbc, Hints& hints) {
     if (!cm.Find(u"Def", probe, {})) return;
     for (int line = 1; line <= cm.CountOfDeclarationLines();) {
         int count = 0;
-        const Text joined = GibGanzeZeile(vbc, line, count);
+        const LogicalText joined = GibGanzeZeile(vbc, line, count);
         ForEachStatement(KommentarEntfernen(joined), [&](TextView statement) {
             const auto defType = std::find_if(kDefTypes.begin(), kDefTypes.end(), [&](TextView word) {
                 return statement.starts_with(word) && Mid(statement, Len(word) + 1, 1) == u" ";

@@ -106,7 +106,7 @@ void ProcScopeNotExplicit(const VBComponent& vbc, Hints& hints) {
 
 void ProcFunktionOhneDatentypDeklariert(const VBComponent& vbc, Hints& hints) {
     ForEachProcedure(vbc.CodeModule(), [&](const Procedure& procedure) {
-        const Text header = ReadHeader(vbc, procedure).text;
+        const LogicalText header = ReadHeader(vbc, procedure).text;
         if (!StartsFunctionHeader(header)) return;
         if (PosEndeParameter(header) == Len(header)) hints.Add(procedure.name, procedure.firstLine);
     });

@@ -183,7 +183,7 @@ ModDeclarations GetModDeclarations(const VBComponent& vbc, MessageBoxes& boxes) 
         for (int line = 1; line <= cm.CountOfDeclarationLines();) {
             int count = 0;
             int kind = 0;
-            const Text joined = GibGanzeZeile(vbc, line, count);
+            const LogicalText joined = GibGanzeZeile(vbc, line, count);
             ForEachStatement(KommentarEntfernen(joined), [&](TextView text) {
                 kind = scanner.Scan({text, line, count});
             });

@@ -44,7 +44,7 @@ class ProcedureScanner {
             range = {hit.line, hit.column + 1, to_, kEndColumn};
             if (!filter.IsInCode(hit) || !accept(hit)) continue;
             int lngAnzahl = 0;
-            const Text rest = GibGanzeZeileBisEnde(vbc_, hit.line, hit.column, lngAnzahl);
+            const LogicalText rest = GibGanzeZeileBisEnde(vbc_, hit.line, hit.column, lngAnzahl);
             const TextView code = KommentarEntfernen(rest);
             if (!code.empty()) {
                 ForEachStatement(

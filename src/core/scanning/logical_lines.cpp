@@ -17,19 +17,20 @@ int FirstLineOfLogicalLine(const CodeModule& cm, int line) {
     return line;
 }
 
-// Appends the lines from `line` on, up to the first one without a mark or to the module's end. `first` is the text of
-// the first of them, which the callers trim differently.
-int AppendForward(const CodeModule& cm, int line, TextView first, Text& joined) {
-    int count = 1;
+// Joins the lines from `line` on, up to the first one without a mark or to the module's end. `first` is the text of the
+// first of them, which the callers trim differently. `count`: how many there are.
+LogicalText JoinForward(const CodeModule& cm, int line, TextView first, int& count) {
+    count = 1;
+    if (!first.ends_with(u'_')) return LogicalText(first);
+    Text joined;
     TextView text = first;
-    while (!text.empty() && text.back() == u'_') {
+    while (text.ends_with(u'_')) {
         joined.append(WithoutMark(text));
-        if (line == cm.CountOfLines()) return count;
+        if (line == cm.CountOfLines()) return LogicalText(std::move(joined));
         text = Trim(cm.Lines(++line));
         ++count;
     }
-    joined.append(text);
-    return count;
+    return LogicalText(joined.append(text));
 }
 
 }  // namespace
@@ -47,15 +48,13 @@ LineStep StepTo(const CodeModule& cm, int next, int line) {
     return step;
 }
 
-Text GibGanzeZeile(const VBComponent& vbc, int lngZeile, int& lngAnzahl) {
-    Text result;
+LogicalText GibGanzeZeile(const VBComponent& vbc, int lngZeile, int& lngAnzahl) {
+    LogicalText result;
     lngAnzahl = 1;
     Frame(vbc.Project().Failures(), {kModule, u"GibGanzeZeile", vbc.Name()}, [&] {
         const CodeModule& cm = vbc.CodeModule();
         const int first = FirstLineOfLogicalLine(cm, lngZeile);
-        Text joined;
-        lngAnzahl = AppendForward(cm, first, Trim(cm.Lines(first)), joined);
-        result = std::move(joined);
+        result = JoinForward(cm, first, Trim(cm.Lines(first)), lngAnzahl);
     });
     return result;
 }
@@ -76,15 +75,14 @@ Text GibGanzeZeileVorh(const CodeModule& cm, int lngZeile, int& lngSpalte) {
     return result;
 }
 
-Text GibGanzeZeileBisEnde(const VBComponent& vbc, int lngZeile, int lngSpalte, int& lngAnzahl) {
-    Text result;
+LogicalText GibGanzeZeileBisEnde(const VBComponent& vbc, int lngZeile, int lngSpalte, int& lngAnzahl) {
+    LogicalText result;
     lngAnzahl = 1;
     Frame(vbc.Project().Failures(), {kModule, u"GibGanzeZeileBisEnde", vbc.Name()}, [&] {
         const CodeModule& cm = vbc.CodeModule();
-        Text joined;
-        lngAnzahl = AppendForward(cm, lngZeile, cm.Lines(lngZeile), joined);
-        joined.erase(0, joined.size() - Mid(joined, lngSpalte).size());
-        result = std::move(joined);
+        const TextView line = cm.Lines(lngZeile);
+        const LogicalText whole = JoinForward(cm, lngZeile, line, lngAnzahl);
+        result = line.ends_with(u'_') ? LogicalText(Text(Mid(whole, lngSpalte))) : LogicalText(Mid(line, lngSpalte));
     });
     return result;
 }

@@ -67,6 +67,7 @@ std::size_t FindCharacter(TextView text, std::size_t from, char16_t wanted) {
 }
 
 std::size_t FindText(TextView text, std::size_t from, TextView target) {
+    if (target.size() == 1) return FindCharacter(text, from, target.front());
     // First and last character tell nearly all other places apart from those of the target.
     const std::size_t last = target.size() - 1;
     std::size_t i = from;
