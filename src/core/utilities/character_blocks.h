@@ -70,13 +70,26 @@ inline std::uint32_t PlacesOfLetter(char16_t wanted, const char16_t* block) {
 
 #endif
 
+/// How many bits are set. Not every processor of the kind has an instruction for it, and without one the standard's
+/// count is a call.
+inline std::size_t CountBits(std::uint64_t bits) {
+#if defined(__POPCNT__)
+    return static_cast<std::size_t>(std::popcount(bits));
+#else
+    bits -= bits >> 1 & 0x5555555555555555;
+    bits = (bits & 0x3333333333333333) + (bits >> 2 & 0x3333333333333333);
+    bits = (bits + (bits >> 4)) & 0x0F0F0F0F0F0F0F0F;
+    return bits * 0x0101010101010101 >> 56;
+#endif
+}
+
 /// Writes the numbers of the bits that are set in `bits` to `found`, each with `offset` added, the lowest first, and
 /// says how many there are. Writes kAtOnce at a time, since processors guess badly how many there are: what is written
 /// behind the last one means nothing.
 template <std::size_t kAtOnce>
 std::size_t WritePlaces(std::uint64_t bits, std::uint32_t offset, std::uint32_t* found) {
     constexpr std::uint64_t kLast = std::uint64_t{1} << 63;
-    const auto count = static_cast<std::size_t>(std::popcount(bits));
+    const std::size_t count = CountBits(bits);
     for (std::size_t written = 0; written < count; written += kAtOnce) {
         for (std::size_t i = 0; i < kAtOnce; ++i) {
             found[written + i] = offset + static_cast<std::uint32_t>(std::countr_zero(bits | kLast));
