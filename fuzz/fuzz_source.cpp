@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::ptrdiff_t before = 0;
     std::ptrdiff_t after = 0;
     for (const SourceModule& module : modules) before += LineEnds(module.code);
-    zentlor::workspace::Compile(modules, false, nullptr);
+    zentlor::workspace::Compile(modules, {});
     for (const SourceModule& module : modules) after += LineEnds(module.code);
     if (before != after) std::abort();
     RunChecks(modules);
