@@ -28,7 +28,9 @@ class Scanner {
             TakePlainTokens();
             if (at_ < text_.size()) ScanToken();
         }
-        if (tokens_.size() > 0 && tokens_.back().kind != TokenKind::EndOfLine) AddLineEnd(0);
+        if (tokens_.size() > 0 && tokens_.back().kind != TokenKind::EndOfLine) {
+            Add(TokenKind::EndOfLine, 0, 0, kEndsStatement);
+        }
         Add(TokenKind::EndOfText, 0);
     }
 
@@ -58,11 +60,10 @@ class Scanner {
         at_ += length;
     }
     void AddOperator(Operator op, std::size_t length) {
-        const bool isRespelled = !IsSame(text_.substr(at_, length), FormOf(op));
+        const bool isRespelled = text_.substr(at_, length) != FormOf(op);
         const std::uint8_t flags = static_cast<std::uint8_t>((isRespelled ? kRespelled : 0) | FlagsOf(op));
         Add(TokenKind::Operator, length, static_cast<std::uint16_t>(op), flags);
     }
-    void AddLineEnd(std::size_t length) { Add(TokenKind::EndOfLine, length, 0, kEndsStatement); }
     static std::uint8_t FlagsOf(Operator op) { return op == Operator::Colon ? kEndsStatement : 0; }
 
     // Where the walk stands.
@@ -81,8 +82,8 @@ class Scanner {
         previous_ = *cursor.previous;
     }
 
-    // The loop for what most of a text is: words that were met before, single characters that stand for themselves,
-    // decimal numbers, line ends and blanks. Stops in front of anything else.
+    // The loop for what most of a text is: words that were met before, operators that are one character and no part of
+    // another one, line ends and blanks. Stops in front of anything else.
     Cursor BehindPlainTokens(Cursor cursor) const {
         const TextView text = text_;
         const std::span<const WordMeaning> meanings(meanings_);
@@ -146,13 +147,12 @@ class Scanner {
     void ScanToken() {
         const StartEntry entry = StartOf(text_[at_]);
         switch (entry.start) {
+            case Start::LineEnd:  // never stopped in front of
             case Start::Unknown:
                 return Add(TokenKind::Unknown, 1);
             case Start::Blank:
                 ++at_;
                 return;
-            case Start::LineEnd:
-                return ScanLineEnds();
             case Start::Word:
                 return ScanWord();
             case Start::Number:
@@ -176,13 +176,6 @@ class Scanner {
             case Start::Single:
                 return AddOperator(entry.single, 1);
         }
-    }
-
-    void ScanLineEnds() {
-        std::size_t end = at_ + 1;
-        while (end < text_.size() && text_[end] == u'\n') ++end;
-        AddLineEnd(end - at_);
-        at_ = SkipSpaces(text_, at_);
     }
 
     void ScanWord() {
