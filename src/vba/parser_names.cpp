@@ -18,6 +18,12 @@ std::uint32_t HashOf(TextView name) {
 
 ScopeNames::ScopeNames(TextView text) : text_(text), slots_(kFirstSlots) {}
 
+TextView ScopeNames::KeyOf(const Token& token) const {
+    TextView key = NameOf(token, text_);
+    while (token.Is(TokenKind::Integer) && key.size() > 1 && key.front() == u'0') key.remove_prefix(1);
+    return key;
+}
+
 // The slot of the name, or the free one where it belongs.
 ScopeNames::Slot& ScopeNames::SlotOf(TextView name, std::uint32_t hash) {
     const std::size_t mask = slots_.size() - 1;
@@ -25,7 +31,7 @@ ScopeNames::Slot& ScopeNames::SlotOf(TextView name, std::uint32_t hash) {
         Slot& slot = slots_[i];
         if (slot.generation != generation_) return slot;
         const Entry& entry = entries_[slot.entry];
-        if (entry.hash == hash && EqualIgnoringCase(NameOf(*entry.token, text_), name)) return slot;
+        if (entry.hash == hash && EqualIgnoringCase(KeyOf(*entry.token), name)) return slot;
     }
 }
 
@@ -35,7 +41,7 @@ ScopeNames::Entry* ScopeNames::Find(TextView name) {
 }
 
 ScopeNames::Entry* ScopeNames::Enter(const Token& token, std::uint32_t kinds) {
-    const TextView name = NameOf(token, text_);
+    const TextView name = KeyOf(token);
     const std::uint32_t hash = HashOf(name);
     Slot& slot = SlotOf(name, hash);
     if (slot.generation == generation_) return &entries_[slot.entry];

@@ -21,6 +21,9 @@ class ScopeNames {
 
     explicit ScopeNames(TextView text);
 
+    /// What is entered of `token`: its name, or the value of a line number, for which 010 is 10.
+    TextView KeyOf(const Token& token) const;
+
     /// The entry of that name, or null. Valid until the next name is entered.
     Entry* Find(TextView name);
     /// Enters the name of `token`. If it is there already nothing is entered, and that entry is the answer; else null.

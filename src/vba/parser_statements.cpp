@@ -25,8 +25,7 @@ void StatementParser::EndBody(const Token& end) {
 
 void StatementParser::DropBody() {
     for (const Token* use : labelUses_) {
-        const TextView name = NameText(*use);
-        if (labels_.Find(name) == nullptr) NoteElsewhere(Fault::LabelMissing, *use, name);
+        if (labels_.Find(labels_.KeyOf(*use)) == nullptr) NoteElsewhere(Fault::LabelMissing, *use, NameText(*use));
     }
     labelUses_.clear();
     blocks_.Clear();
@@ -268,7 +267,7 @@ bool StatementParser::ParseOnError() {
     if (Accept(Keyword::Resume)) return Expect(Keyword::Next, Fault::ResumeNext);
     const bool isGoTo = Accept(Keyword::GoTo) || (Here().Is(Keyword::Go) && (Advance(), Accept(Keyword::To)));
     if (!isGoTo) return FailExpecting(Fault::OnError);
-    const bool isOff = Here().Is(Operator::Minus) || Quote(Here()) == u"0";
+    const bool isOff = Here().Is(Operator::Minus) || labels_.KeyOf(Here()) == u"0";
     if (!isOff) return ParseLabelUse();
     Accept(Operator::Minus);
     return ParseExpression();

@@ -157,6 +157,7 @@ constexpr Row kJumps[] = {
     {"Resume", u"L: Resume: Resume Next: Resume 0: Resume L: Resume 10\n10 Beep"},
     {"Go To", u"L: Go To L: Go Sub L: GoTo L: GoSub L"},
     {"number and name on one line", u"10 L: GoTo L: GoTo 10"},
+    {"line numbers count by their value", u"010 Beep\n20 On Error GoTo 00\nIf x Then 10 Else 0020"},
     {"label in other capitalisation", u"GoTo FEHLER\nFehler:"},
     {"calls that look like labels may be repeated", u"DoEvents: x = 1\nDoEvents: x = 2\nA : x = 3\nA : x = 4"},
     {"empty statements", u":: x = 1 :: y = 2 ::"},
