@@ -199,11 +199,12 @@ TEST(Canonical, DisorderLeavesNoTrace) {
 
 // Any text: the second pass changes nothing, and the number of lines stays.
 TEST(Canonical, OnceIsEnough) {
-    const TextView pieces[] = {u"a",     u"Wert", u"left$", u"Sub", u"As", u"Step", u"For",  u"1",    u"#1",  u"&HF",
-                               u"\"s\"", u"'x",   u"Rem",   u"(",   u")",  u".",    u"!",    u",",    u";",   u":",
-                               u"-",     u"=",    u"<",     u"&",   u"^",  u"#",    u"\n",   u" _\n", u"\t",  u" ",
-                               u"  ",    u"[a]",  u"%",     u"Go",  u"To", u"If",   u"?",    u"Line", u"1.5", u"_",
-                               u"Name",  u"Open", u"{",     u"　",  u"Ä",  u"１",   u"Then", u"Dim"};
+    const TextView pieces[] = {
+        u"a",  u"Wert", u"left$", u"Sub", u"As",   u"Step", u"For",  u"1",    u"#1",   u"&HF", u"\"s\"",
+        u"'x", u"Rem",  u"(",     u")",   u".",    u"!",    u",",    u";",    u":",    u"-",   u"=",
+        u"<",  u"&",    u"^",     u"#",   u"\n",   u" _\n", u"\t",   u" ",    u"  ",   u"[a]", u"%",
+        u"Go", u"To",   u"If",    u"?",   u"Line", u"1.5",  u"_",    u"Name", u"Open", u"{",   u"　",
+        u"Ä",  u"１",   u"Then",  u"Dim", u"Long", u"True", u"Else", u"+",    u">=",   u":=",  u"Print"};
     Random random(3);
     for (int round = 0; round < 30000; ++round) {
         Text code;
