@@ -40,6 +40,11 @@ bool BeginsHeader(const Token& first) {
     }
 }
 
+// What may stand behind a name without parentheses. Any other line is no header that the editor could read.
+bool EndsHeaderName(const Token& token) {
+    return token.Is(Keyword::As) || token.Has(kEndsStatement) || token.Is(TokenKind::Comment);
+}
+
 // The index of the declared name, or `kNoToken` if the line is no header. `isDeclare` tells a `Declare` statement.
 std::size_t FindHeaderName(const Tokens& tokens, std::size_t first, bool& isDeclare) {
     std::size_t i = first;
@@ -67,12 +72,11 @@ MissingParentheses FindMissingParentheses(const Tokens& tokens, std::size_t firs
     std::size_t last = FindHeaderName(tokens, first, isDeclare);
     if (last == kNoToken) return kNothing;
     std::size_t next = SkipContinuations(tokens, last + 1);
-    while (isDeclare && next < end && !tokens[next].Is(Operator::OpenParenthesis) && !tokens[next].Is(Keyword::As) &&
-           !tokens[next].Is(TokenKind::Comment)) {
+    while (isDeclare && next < end && !tokens[next].Is(Operator::OpenParenthesis) && !EndsHeaderName(tokens[next])) {
         last = next;
         next = SkipContinuations(tokens, last + 1);
     }
-    if (tokens[next].Is(Operator::OpenParenthesis)) return kNothing;
+    if (!EndsHeaderName(tokens[next])) return kNothing;
     return {last, isDeclare ? TextView(u" ()") : TextView(u"()")};
 }
 
