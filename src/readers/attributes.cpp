@@ -47,7 +47,7 @@ struct Attribute {
 bool MayBeAttribute(TextView line) {
     if (line.empty()) return false;
     if (!IsBlank(line.front())) return (line.front() | 0x20) == u'a';
-    std::size_t first = SkipSpaces(line, 0);
+    std::size_t first = SkipIndentation(line, 0);
     while (first < line.size() && IsBlank(line[first])) ++first;
     return first < line.size() && (line[first] | 0x20) == u'a';
 }

@@ -26,16 +26,17 @@ Capitalisation::Capitalisation() {
 std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView text) {
     ++module_;
     held_.clear();
+    FindPlaces(tokens);
     DeclarationReader declarations;
     const Token* first = tokens.begin();
     bool startsLine = true;
-    for (const std::uint32_t place : FindPlaces(tokens, kEndsStatement, statementEnds_)) {
+    for (const std::uint32_t place : statementEnds_.All()) {
         const Token* const end = tokens.begin() + place;
         declarations.Read(first, end, startsLine, [&](const Token& token) { EnterDeclared(token, text); });
         first = end + 1;
         startsLine = end->Is(TokenKind::EndOfLine);
     }
-    for (const std::uint32_t place : FindPlaces(tokens, kOfProject, namePlaces_)) {
+    for (const std::uint32_t place : namesOfProject_.All()) {
         const Token& token = tokens[place];
         const bool isKnown = token.word < words_.size() && words_[token.word].lastModule == module_;
         if (!isKnown) EnterMet(token, text);
@@ -43,16 +44,22 @@ std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView 
     return std::move(held_);
 }
 
-// Which tokens have a flag is nothing that a processor can guess: a loop without a branch.
-std::span<const std::uint32_t> Capitalisation::FindPlaces(const Tokens& tokens, TokenFlag flag,
-                                                          std::vector<std::uint32_t>& places) {
-    if (places.size() < tokens.size()) places = std::vector<std::uint32_t>(tokens.size());
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < tokens.size(); ++i) {
-        places[count] = static_cast<std::uint32_t>(i);
-        count += tokens[i].Has(flag) ? 1 : 0;
+// Which tokens end a statement and which are names is nothing that a processor can guess: a loop without a branch.
+void Capitalisation::FindPlaces(const Tokens& tokens) {
+    for (TokenPlaces* places : {&statementEnds_, &namesOfProject_}) {
+        if (places->memory.size() < tokens.size()) places->memory = std::vector<std::uint32_t>(tokens.size());
     }
-    return std::span(places).first(count);
+    std::uint32_t* end = statementEnds_.memory.data();
+    std::uint32_t* name = namesOfProject_.memory.data();
+    std::uint32_t index = 0;
+    for (const Token* token = tokens.begin(); token != tokens.end(); ++token, ++index) {
+        *end = index;
+        *name = index;
+        end += token->Has(kEndsStatement) ? 1 : 0;
+        name += token->Has(kOfProject) ? 1 : 0;
+    }
+    statementEnds_.count = static_cast<std::size_t>(end - statementEnds_.memory.data());
+    namesOfProject_.count = static_cast<std::size_t>(name - namesOfProject_.memory.data());
 }
 
 Capitalisation::Word& Capitalisation::WordOf(const Token& token) {

@@ -41,8 +41,15 @@ class Capitalisation {
         bool isDeclared = false;
     };
 
-    static std::span<const std::uint32_t> FindPlaces(const Tokens& tokens, TokenFlag flag,
-                                                     std::vector<std::uint32_t>& places);
+    // Indexes of tokens, in order.
+    struct TokenPlaces {
+        std::vector<std::uint32_t> memory;
+        std::size_t count = 0;
+
+        std::span<const std::uint32_t> All() const { return std::span(memory).first(count); }
+    };
+
+    void FindPlaces(const Tokens& tokens);
     Word& WordOf(const Token& token);
     void EnterDeclared(const Token& token, TextView text);
     void EnterMet(const Token& token, TextView text);
@@ -52,8 +59,8 @@ class Capitalisation {
     // Of the present module.
     std::uint32_t module_ = 0;  // counted from 1
     std::vector<std::uint32_t> held_;
-    std::vector<std::uint32_t> statementEnds_;  // indexes of tokens, and room behind them
-    std::vector<std::uint32_t> namePlaces_;     // the same
+    TokenPlaces statementEnds_;
+    TokenPlaces namesOfProject_;
 };
 
 }  // namespace zentlor::vba

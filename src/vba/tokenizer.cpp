@@ -129,7 +129,7 @@ class Scanner {
                     std::size_t end = offset + 1;
                     while (end < text.size() && text[end] == u'\n') ++end;
                     add({offset, static_cast<std::uint32_t>(end - offset), TokenKind::EndOfLine, kEndsStatement});
-                    cursor.at = SkipSpaces(text, cursor.at);
+                    cursor.at = SkipIndentation(text, cursor.at);
                     break;
                 }
                 default:

@@ -57,6 +57,10 @@ TEST(Extents, FollowTheLanguage) {
          "declarations 0; B/0 1-3-4"},
         {"end behind a colon", u"Sub A(): Beep: End Sub\nSub B()\nBeep: End Sub ' c\nSub C()\nEnd Sub",
          "declarations 0; A/0 1-1-1; B/0 2-2-3; C/0 4-4-5"},
+        {"other ends, and parts of words, are none; the words of an end stand apart in many ways",
+         u"Sub A()\nEnd If\nEnds Sub\nxEnd Sub\nEndSub\nEnd Subs\nEnd  Sub\nSub B()\neND\tsUB\nSub C()\nEnd _\nSub\n"
+         u"Sub D()\nEnd",
+         "declarations 0; A/0 1-1-7; B/0 8-8-9; C/0 10-10-12; D/0 13-13-14"},
         {"an end in a string or a comment is none",
          u"Sub A()\nx = \":End Sub\"\n'x: End Sub\nEnd Sub\nSub B()\nEnd Sub", "declarations 0; A/0 1-1-4; B/0 5-5-6"},
         {"nor in a Rem that begins where a statement may",

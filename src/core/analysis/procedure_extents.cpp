@@ -105,7 +105,7 @@ bool IsProcedureEnd(TextView statement) {
 
 // The offset of a logical line's first character that is no blank and no continuation, or the line's size.
 std::size_t FindFirstCharacter(TextView line) {
-    const std::size_t first = SkipSpaces(line, 0);
+    const std::size_t first = SkipIndentation(line, 0);
     const bool isPlain = first == line.size() || (line[first] != u'\t' && line[first] != u'_');
     return isPlain ? first : line.size() - StatementReader(line).Rest().size();
 }
@@ -124,20 +124,34 @@ bool MayEndProcedure(TextView code) {
     return FoldCase(code.front()) == u'e' && code.size() > 1 && FoldCase(code[1]) == u'n';
 }
 
-// Offset of the next "End", in any case and be it a part of a word, or the text's size.
+constexpr TextView kEnd = u"end";
+
+// Whether an "End" at `place` may be that of a procedure. It tells most others by their neighbours: parts of words, and
+// the ends of blocks.
+bool MayBeOfProcedure(TextView text, std::size_t place) {
+    if (place > 0 && IsWordCharacter(text[place - 1])) return false;
+    const TextView behind = text.substr(place + kEnd.size(), 2);
+    if (behind.size() < 2) return false;
+    if (behind.front() != u' ') return !IsWordCharacter(behind.front());
+    const char16_t c = FoldCase(behind.back());
+    return c == u's' || c == u'f' || c == u'p' || c == u'_' || !IsWordCharacter(c);
+}
+
+// Offset of the next "End", in any case, that may be that of a procedure, or the text's size.
 std::size_t FindEnd(TextView text, std::size_t from) {
-    constexpr TextView kEnd = u"end";
     std::size_t i = from;
     for (; i + kEnd.size() - 1 + kBlock <= text.size(); i += kBlock) {
         const char16_t* block = text.data() + i;
         std::uint32_t places = PlacesOfLetter(kEnd[0], block) & PlacesOfLetter(kEnd[2], block + 2);
         for (; places != 0; places &= places - 1) {
             const std::size_t place = i + static_cast<std::size_t>(std::countr_zero(places));
-            if ((text[place + 1] | 0x20) == kEnd[1]) return place;
+            if ((text[place + 1] | 0x20) == kEnd[1] && MayBeOfProcedure(text, place)) return place;
         }
     }
-    while (i < text.size() && !EqualIgnoringCase(text.substr(i, kEnd.size()), kEnd)) ++i;
-    return i;
+    for (; i < text.size(); ++i) {
+        if (EqualIgnoringCase(text.substr(i, kEnd.size()), kEnd) && MayBeOfProcedure(text, i)) return i;
+    }
+    return text.size();
 }
 
 // Cuts a logical line into its statements. Colons in strings and in bracketed names separate nothing, and a comment
@@ -257,7 +271,7 @@ class ExtentFinder {
 
     // `code`: the line from its first character on that is no blank.
     void VisitLogicalLine(int first, int last, TextView code) {
-        const bool holdsColon = HoldsColon(code) && MayEndBehindColon(code);
+        const bool holdsColon = MayEndBehindColon(code);
         const bool mayBound = open_ ? holdsColon || MayEndProcedure(code) : MayBeHeader(code);
         const bool isSeen = mayBound || result_.procedures.empty();
         if (!isSeen || IsComment(code)) return;
@@ -267,13 +281,6 @@ class ExtentFinder {
             VisitStatement(first, last, code, true);
         }
         if (result_.procedures.empty()) result_.declarationLines = last;
-    }
-
-    // Lines are asked for from top to bottom.
-    bool HoldsColon(TextView line) {
-        const auto begin = static_cast<std::size_t>(line.data() - text_.data());
-        if (nextColon_ < begin) nextColon_ = FindCharacter(text_, begin, u':');
-        return nextColon_ < begin + line.size();
     }
 
     // Most colons stand in strings, and what follows them begins with no letter that an `End` could begin with.
@@ -342,7 +349,6 @@ class ExtentFinder {
     TextView text_;
     const std::vector<std::uint32_t>& lineStarts_;
     ModuleExtents result_;
-    std::size_t nextColon_ = 0;  // the first one behind the lines looked at
     bool open_ = false;
 };
 

@@ -30,8 +30,16 @@ class WordIndex {
     WordIndex(const WordTable& words, std::vector<ModuleWords> modules);
 
     /// The characters of the index at the start of `target`. In a match that stands free they are a whole word of the
-    /// text: what follows them in the target ends the word, and nothing in front of the match continues it.
-    LeadingWord FindLeading(TextView target) const { return words_.FindLeading(target); }
+    /// text: what follows them in the target ends the word, and nothing in front of the match continues it. Remembers
+    /// the last answer, since a walk asks for the same target at every step. Not to be called by several threads at
+    /// once.
+    LeadingWord FindLeading(TextView target) const {
+        if (!IsSame(target, askedTarget_)) {
+            askedTarget_ = target;
+            leadingWord_ = words_.FindLeading(target);
+        }
+        return leadingWord_;
+    }
 
     /// The words that end in `ending`, which has characters of the index only. Remembers what was asked for. Not to be
     /// called by several threads at once.
@@ -56,6 +64,8 @@ class WordIndex {
     std::vector<Place> moduleStarts_;
     std::vector<std::uint32_t> starts_;  ///< by a word's number: where its places begin in places_
     std::vector<Place> places_;
+    mutable Text askedTarget_;  ///< of the last question for a leading word
+    mutable LeadingWord leadingWord_;
     mutable std::map<Text, std::vector<WordWithEnding>, std::less<>> endings_;
 };
 

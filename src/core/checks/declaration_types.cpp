@@ -65,8 +65,8 @@ void ProcImplizitesDatentypenKennzeichen(const ProcedureTables& tables, Hints& h
     });
 }
 
-void ProcParamImplizitesDatentypenKennzeichen(const VBComponent& vbc, Hints& hints) {
-    ForEachParameter(vbc, [&](const Procedure& procedure, const typParameter& parameter) {
+void ProcParamImplizitesDatentypenKennzeichen(const ProcedureTables& tables, Hints& hints) {
+    ForEachParameter(tables, [&](const Procedure& procedure, const typParameter& parameter) {
         if (parameter.blnKennzeichen) hints.Add(procedure.name, procedure.firstLine, parameter.strName);
     });
 }

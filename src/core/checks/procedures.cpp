@@ -104,35 +104,34 @@ void ProcScopeNotExplicit(const VBComponent& vbc, Hints& hints) {
     });
 }
 
-void ProcFunktionOhneDatentypDeklariert(const VBComponent& vbc, Hints& hints) {
-    ForEachProcedure(vbc.CodeModule(), [&](const Procedure& procedure) {
-        const LogicalText header = ReadHeader(vbc, procedure).text;
-        if (!StartsFunctionHeader(header)) return;
-        if (PosEndeParameter(header) == Len(header)) hints.Add(procedure.name, procedure.firstLine);
-    });
+void ProcFunktionOhneDatentypDeklariert(const ProcedureTables& tables, Hints& hints) {
+    for (const auto& [procedure, header, lineCount, parameters] : tables.Headers()) {
+        if (!StartsFunctionHeader(header)) continue;
+        if (PosEndeParameter(header) == Len(header)) hints.Add(procedure->name, procedure->firstLine);
+    }
 }
 
-void ProcParameterNichtGenutzt(const VBComponent& vbc, Hints& hints) {
-    ForEachProcedure(vbc.CodeModule(), [&](const Procedure& procedure) {
-        if (IstEreignisProzedur(procedure.name)) return;
-        const HeaderText header = ReadHeader(vbc, procedure);
-        HitFilter filter(vbc.CodeModule());
-        for (const typParameter& parameter : GetParameters(header.text)) {
+void ProcParameterNichtGenutzt(const ProcedureTables& tables, Hints& hints) {
+    const CodeModule& cm = tables.Component().CodeModule();
+    for (const auto& [procedure, header, lineCount, parameters] : tables.Headers()) {
+        if (IstEreignisProzedur(procedure->name)) continue;
+        HitFilter filter(cm);
+        for (const typParameter& parameter : parameters) {
             const TextView name = WithoutTypeCharacter(parameter.strName);
-            if (IsUsedBehindHeader(vbc.CodeModule(), filter, procedure, header.lineCount, name)) continue;
-            hints.Add(procedure.name, procedure.firstLine, parameter.strName);
+            if (IsUsedBehindHeader(cm, filter, *procedure, lineCount, name)) continue;
+            hints.Add(procedure->name, procedure->firstLine, parameter.strName);
         }
-    });
+    }
 }
 
-void ProcParameterDatentypNichtExplizitDeklariert(const VBComponent& vbc, Hints& hints) {
-    ForEachParameter(vbc, [&](const Procedure& procedure, const typParameter& parameter) {
+void ProcParameterDatentypNichtExplizitDeklariert(const ProcedureTables& tables, Hints& hints) {
+    ForEachParameter(tables, [&](const Procedure& procedure, const typParameter& parameter) {
         if (!parameter.blnDatentyp) hints.Add(procedure.name, procedure.firstLine, parameter.strName);
     });
 }
 
-void ProcParamNichtExplByValByRefDeklariert(const VBComponent& vbc, Hints& hints) {
-    ForEachParameter(vbc, [&](const Procedure& procedure, const typParameter& parameter) {
+void ProcParamNichtExplByValByRefDeklariert(const ProcedureTables& tables, Hints& hints) {
+    ForEachParameter(tables, [&](const Procedure& procedure, const typParameter& parameter) {
         if (parameter.blnByValByRef || IstEreignisProzedur(procedure.name)) return;
         hints.Add(procedure.name, procedure.firstLine, parameter.strName);
     });

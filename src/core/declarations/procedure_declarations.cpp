@@ -103,6 +103,19 @@ ProcDeclarations GetProcDeclarations(const VBComponent& vbc, int lngVon, int lng
     return table;
 }
 
+const std::vector<ProcedureTables::Header>& ProcedureTables::Headers() const {
+    if (hasHeaders_) return headers_;
+    headers_.reserve(vbc_.CodeModule().Procedures().size());  // the parameters view the texts, which must not move
+    ForEachProcedure(vbc_.CodeModule(), [&](const Procedure& procedure) {
+        Header& header = headers_.emplace_back();
+        header.procedure = &procedure;
+        header.text = GibGanzeZeile(vbc_, procedure.bodyLine, header.lineCount);
+        header.parameters = GetParameters(header.text);
+    });
+    hasHeaders_ = true;
+    return headers_;
+}
+
 const std::vector<ProcedureTables::Table>& ProcedureTables::All() const {
     if (made_) return tables_;
     ForEachProcedure(vbc_.CodeModule(), [&](const Procedure& procedure) {

@@ -124,6 +124,17 @@ void ForEachPlace(TextView text, char16_t wanted, Visit visit) {
     }
 }
 
+/// Offset of the first character at or behind `from` that is no " ", or the text's size. For indentations: that of a
+/// line behind another is nothing that a processor can guess.
+inline std::size_t SkipIndentation(TextView text, std::size_t from) {
+    constexpr std::uint32_t kAll = (1U << kBlock) - 1;
+    for (; from + kBlock <= text.size(); from += kBlock) {
+        const std::uint32_t others = PlacesOf(u' ', text.data() + from) ^ kAll;
+        if (others != 0) return from + static_cast<std::size_t>(std::countr_zero(others));
+    }
+    return SkipSpaces(text, from);
+}
+
 /// Offset of the first of `wanted` at or behind offset `from`, or the text's size.
 template <class... Characters>
 std::size_t FindAny(TextView text, std::size_t from, Characters... wanted) {
