@@ -108,25 +108,33 @@ ExportHeader KindOfHeader(TextView firstLine) {
     return isClass ? ExportHeader::Class : ExportHeader::Form;
 }
 
-// How many lines the header takes: the `VERSION` line, `Object =` lines, and a block from BEGIN to its END. A block
-// that never ends is none, or a missing END would swallow the code.
-std::size_t CountHeaderLines(TextView text) {
+struct Header {
+    ExportHeader kind = ExportHeader::None;
+    std::size_t lines = 0;
+};
+
+// The header: the `VERSION` line and the blank ones in front of it, `Object =` lines, and a block from BEGIN to its
+// END. A block that never ends is none, or a missing END would swallow the code.
+Header FindHeader(TextView text) {
     LineReader lines(text);
     TextView line;
-    if (!lines.Next(line) || KindOfHeader(line) == ExportHeader::None) return 0;
-    std::size_t count = 1, complete = 1;
+    std::size_t count = 1;
+    while (lines.Next(line) && WithoutBlanks(line).empty()) ++count;
+    const ExportHeader kind = KindOfHeader(line);
+    if (kind == ExportHeader::None) return {};
+    std::size_t complete = count;
     for (int depth = 0; lines.Next(line);) {
         const TextView word = FirstWord(line);
         const bool begins = EqualIgnoringCase(word, u"BEGIN") || EqualIgnoringCase(word, u"BeginProperty");
         const bool ends = EqualIgnoringCase(word, u"END") || EqualIgnoringCase(word, u"EndProperty");
-        if (MayBeAttribute(line) && ParseAttribute(line)) return depth > 0 ? count : complete;
+        if (MayBeAttribute(line) && ParseAttribute(line)) return {kind, depth > 0 ? count : complete};
         if (depth == 0 && !begins && !word.empty() && !EqualIgnoringCase(word, u"Object")) break;
         ++count;
         if (begins) ++depth;
         if (ends && depth > 0 && --depth == 0) complete = count;
         if (depth == 0 && EqualIgnoringCase(word, u"Object")) complete = count;
     }
-    return complete;
+    return {kind, complete};
 }
 
 void AddLine(TextView line, Text& out) {
@@ -138,7 +146,8 @@ void AddLine(TextView line, Text& out) {
 
 StrippedCode StripAttributes(Text text) {
     StrippedCode result;
-    const std::size_t headerLines = CountHeaderLines(text);
+    const Header header = FindHeader(text);
+    result.kind = header.kind;
     // The code moves together in the place of the text, every line at most to where it stands.
     if (!text.empty() && text.back() != u'\n' && text.back() != u'\r') text.push_back(u'\n');
     char16_t* behindCode = text.data();
@@ -146,8 +155,7 @@ StrippedCode StripAttributes(Text text) {
     TextView line;
     bool inside = false, hiding = false;
     for (std::uint32_t number = 1; lines.Next(line); ++number) {
-        if (number == 1) result.kind = KindOfHeader(line);
-        if (number <= headerLines) {
+        if (number <= header.lines) {
             AddLine(line, result.header);
             continue;
         }

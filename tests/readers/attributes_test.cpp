@@ -70,6 +70,7 @@ TEST(Attributes, HidesTheHeaderOfAnExport) {
          u"   EndProperty\nEnd\nAttribute VB_Name = \"F\"\nDim a\n",
          u"Dim a\n",
          {10}},
+        {"blank lines in front of it", u"\n \nVERSION 1.0 CLASS\nBEGIN\nEND\nDim a\n", u"Dim a\n", {6}},
         {"without attributes behind it", u"VERSION 1.0 CLASS\nBEGIN\nEND\nDim a\n", u"Dim a\n", {4}},
         {"a block without end costs no code",
          u"VERSION 1.0 CLASS\nBEGIN\nDim a\nSub B()\n",
