@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace zentlor::vba {
 namespace {
@@ -66,21 +67,74 @@ std::int64_t Whole(double number) {
     return static_cast<std::int64_t>(std::clamp(std::isfinite(number) ? number : 0.0, -kLargest, kLargest));
 }
 
+// To the nearest whole number, and from the middle to the even one.
+double Rounded(double number) {
+    return std::nearbyint(std::isfinite(number) ? number : 0.0);
+}
+
+// A literal with its suffix, if any. Hexadecimal and octal ones of 16 and of 32 bits wrap: `&HFFFF` is -1.
+double NumberOf(TextView literal) {
+    std::string narrow;
+    for (const char16_t c : literal) narrow += c < 128 ? static_cast<char>(c | (c >= 'A' && c <= 'Z' ? 0x20 : 0)) : '?';
+    if (!narrow.starts_with('&')) {
+        std::replace(narrow.begin(), narrow.end(), 'd', 'e');
+        return std::strtod(narrow.c_str(), nullptr);
+    }
+    const bool isHexadecimal = narrow.starts_with("&h");
+    const char* digits = narrow.c_str() + (isHexadecimal || narrow.starts_with("&o") ? 2 : 1);
+    const std::uint64_t bits = std::strtoull(digits, nullptr, isHexadecimal ? 16 : 8);
+    const char suffix = narrow.back();
+    if (suffix == '^') return static_cast<double>(static_cast<std::int64_t>(bits));
+    if (bits <= 0xFFFF && suffix != '&') return static_cast<std::int16_t>(bits);
+    return static_cast<std::int32_t>(bits);
+}
+
 ConditionValue Number(double number) {
     return {number, {}, false};
 }
 ConditionValue Truth(bool isTrue) {
     return Number(isTrue ? kTrue : 0);
 }
+ConditionValue String(Text characters) {
+    const double number = EqualIgnoringCase(characters, u"True") ? kTrue : NumberOf(characters);
+    return {number, std::move(characters), true};
+}
 
+Text TextOfValue(const ConditionValue& value) {
+    return value.isString ? value.characters : ToText(Whole(value.number));
+}
+
+Text Folded(TextView text) {
+    Text folded(text);
+    for (char16_t& c : folded) c = FoldCase(c);
+    return folded;
+}
+
+// Strings are compared as by `Option Compare Text`, whatever the module says.
 int Compare(const ConditionValue& a, const ConditionValue& b) {
-    if (a.isString && b.isString) return a.characters.compare(b.characters);
+    if (a.isString && b.isString) return Folded(a.characters).compare(Folded(b.characters));
     return a.number < b.number ? -1 : a.number > b.number ? 1 : 0;
 }
 
+// The functions that may stand in a condition. Those that are not named here give back what they get.
+ConditionValue Call(TextView function, const ConditionValue& argument) {
+    const auto is = [function](TextView name) { return EqualIgnoringCase(function, name); };
+    const double number = argument.number;
+    if (is(u"CBool")) return Truth(number != 0);
+    if (is(u"CByte") || is(u"CInt") || is(u"CLng") || is(u"CLngLng") || is(u"CLngPtr")) return Number(Rounded(number));
+    if (is(u"CStr")) return String(TextOfValue(argument));
+    if (is(u"Abs")) return Number(std::abs(number));
+    if (is(u"Sgn")) return Number(number < 0 ? -1 : number > 0 ? 1 : 0);
+    if (is(u"Int")) return Number(std::floor(number));
+    if (is(u"Fix")) return Number(std::trunc(number));
+    if (is(u"Len")) return Number(static_cast<double>(TextOfValue(argument).size()));
+    if (is(u"LenB")) return Number(static_cast<double>(2 * TextOfValue(argument).size()));
+    return argument;
+}
+
 ConditionValue Combine(const Token& token, const ConditionValue& a, const ConditionValue& b) {
-    const std::int64_t left = Whole(a.number);
-    const std::int64_t right = Whole(b.number);
+    const std::int64_t left = Whole(Rounded(a.number));
+    const std::int64_t right = Whole(Rounded(b.number));
     switch (token.keyword()) {
         case Keyword::Imp:
             return Number(static_cast<double>(~left | right));
@@ -110,15 +164,18 @@ ConditionValue Combine(const Token& token, const ConditionValue& a, const Condit
             return Truth(Compare(a, b) > 0);
         case Operator::GreaterEqual:
             return Truth(Compare(a, b) >= 0);
+        case Operator::Concatenate:
+            return String(TextOfValue(a) + TextOfValue(b));
         case Operator::Plus:
-            return Number(a.number + b.number);
+            return a.isString && b.isString ? String(a.characters + b.characters) : Number(a.number + b.number);
         case Operator::Minus:
             return Number(a.number - b.number);
         case Operator::Times:
             return Number(a.number * b.number);
         case Operator::Divide:
+            return Number(b.number == 0 ? 0 : a.number / b.number);
         case Operator::IntegerDivide:
-            return Number(b.number == 0 ? 0 : std::trunc(a.number / b.number));
+            return Number(right == 0 ? 0 : std::trunc(static_cast<double>(left) / static_cast<double>(right)));
         case Operator::Power:
             return Number(std::pow(a.number, b.number));
         default:
@@ -158,14 +215,13 @@ class ConditionReader {
         Advance();
         switch (token.kind) {
             case TokenKind::Name:
-                // `CBool(Mac)`: of the functions that may stand here most give back what they get.
-                if (token_->Is(Operator::OpenParenthesis)) return ReadOperand();
+                if (token_->Is(Operator::OpenParenthesis)) return Call(NameOf(token, text_), ReadOperand());
                 return constants_.ValueOf(NameOf(token, text_));
             case TokenKind::Keyword:
                 if (token.Is(Keyword::Not)) return Number(static_cast<double>(~Whole(Read(kNotRank).number)));
                 return Truth(token.Is(Keyword::True));
             case TokenKind::String:
-                return {0, TextOf(token, text_).substr(1), true};
+                return String(CharactersOf(token));
             case TokenKind::Operator:
                 return ReadSigned(token);
             default:
@@ -182,11 +238,11 @@ class ConditionReader {
         return value;
     }
 
-    static double NumberOf(TextView digits) {
-        std::string narrow;
-        for (const char16_t c : digits) narrow += c < 128 ? static_cast<char>(c) : '?';
-        if (narrow.starts_with("&H") || narrow.starts_with("&h")) narrow.replace(0, 2, "0x");
-        return std::strtod(narrow.c_str(), nullptr);
+    // Without the marks around it; a doubled one inside stands for one.
+    Text CharactersOf(const Token& string) const {
+        TextView characters = TextOf(string, text_).substr(1);
+        if (!string.Has(kUnterminated)) characters.remove_suffix(1);
+        return ReplaceAll(characters, u"\"\"", u"\"");
     }
 
     TextView text_;
@@ -194,12 +250,6 @@ class ConditionReader {
     const Token*& token_;
     int depth_ = 0;
 };
-
-Text Folded(TextView name) {
-    Text folded(name);
-    for (char16_t& c : folded) c = FoldCase(c);
-    return folded;
-}
 
 }  // namespace
 

@@ -9,10 +9,10 @@
 
 namespace zentlor::vba {
 
-/// A value of conditional compilation. Empty is the number 0, True is -1.
+/// A value of conditional compilation. Empty is the number 0, True is -1. A string has the number that it spells, or 0.
 struct ConditionValue {
     double number = 0;
-    TextView characters;  ///< Of a string, without its quotation marks.
+    Text characters;  ///< Of a string, without its quotation marks.
     bool isString = false;
 
     bool IsTrue() const { return number != 0; }

@@ -85,6 +85,14 @@ constexpr Module kBranches[] = {
      u"#If (1 + 2) * 3 = 9 And 7 Mod 4 = 3 And 2 ^ 3 = 8 And -1 < 0 Then\nSub A()\n#Else\nSub (\n#End If\nEnd Sub\n"},
     {"constant set in a branch that does not count",
      u"#If Mac Then\n#Const X = 1\n#End If\n#If X Then\nSub (\n#Else\nSub A()\n#End If\nEnd Sub\n"},
+    {"strings of a condition count in any capitals",
+     u"#Const L = \"de\"\n#If L <> \"DE\" Or L & \"-\" <> \"De-\" Or Len(\"a\"\"b\") <> 3 Then\nSub (\n#End If\n"},
+    {"literals of a condition",
+     u"#If &HFFFF <> -1 Or &HFFFF& <> 65535 Or &O17 <> 15 Or &17 <> 15 Or &HFFFFFFFF <> -1 Or 1D2 <> 100 Then\nSub (\n"
+     u"#End If\n"},
+    {"functions and division",
+     u"#If 3 / 2 <> 1.5 Or 7 \\ 2 <> 3 Or CBool(5) <> True Or CInt(\"5\") <> 5 Or CStr(5) <> \"5\" Or Abs(-1) <> 1 Or "
+     u"Sgn(-5) <> -1 Or Int(-1.5) <> -2 Or Fix(-1.5) <> -1 Or CLng(2.5) <> 2 Or \"10\" <> 10 Then\nSub (\n#End If\n"},
     {"EndIf in one word", u"#If VBA7 Then\n#EndIf\n"},
     {"fits an editor of 32 bits", u"#If Win64 Then\nSub A(\n#Else\nSub A()\n#End If\nEnd Sub\n"},
     {"fits a constant of the project's settings",
