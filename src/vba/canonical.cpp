@@ -173,9 +173,17 @@ class ModuleWriter {
         if (token.Has(kBracketed)) return;
         const Token name = WithoutTypeCharacter(token);
         if (!token.Has(kOfProject)) return ReplaceIfOther(name, Spelling(token.keyword()));
+        if (IsRangeStatement(tokens_[spacing_.StatementStart()].keyword())) return WriteLetter(name);
         if (capitalisation_ == nullptr) return;
         const bool isKeyword = token.id != 0 && StandsAsKeyword(tokens_, index, spacing_.StatementStart());
         ReplaceIfOther(name, isKeyword ? Spelling(token.keyword()) : capitalisation_->SpellingOf(NameOf(token, text_)));
+    }
+
+    void WriteLetter(const Token& letter) {
+        const char16_t c = text_[letter.offset];
+        if (letter.length != 1 || c < u'a' || c > u'z') return;
+        const char16_t capital = static_cast<char16_t>(c - u'a' + u'A');
+        Replace(letter.offset, letter.End(), TextView(&capital, 1));
     }
 
     void WriteOther(const Token& token) {

@@ -17,7 +17,9 @@ Capitalisation::Capitalisation() {
         rest.remove_prefix(std::min(length + 1, rest.size()));
     }
     for (std::size_t id = 1; id <= kKeywordCount; ++id) {
-        const TextView spelling = Spelling(static_cast<Keyword>(id));
+        const auto keyword = static_cast<Keyword>(id);
+        if (keyword == Keyword::GoTo) continue;  // one application has a method Goto, another one GoTo
+        const TextView spelling = Spelling(keyword);
         if (!names_.Holds(spelling)) names_.Add(spelling, NameRank::Library);
     }
 }
@@ -30,16 +32,22 @@ std::vector<std::uint32_t> Capitalisation::Learn(const Tokens& tokens, TextView 
     DeclarationReader declarations;
     const Token* first = tokens.begin();
     bool startsLine = true;
+    letters_.clear();
     for (const std::uint32_t place : statementEnds_.All()) {
         const Token* const end = tokens.begin() + place;
         declarations.Read(first, end, startsLine, [&](const Token& token) { EnterDeclared(token, text); });
+        if (IsRangeStatement(first->keyword())) letters_.push_back({first, end});
         first = end + 1;
         startsLine = end->Is(TokenKind::EndOfLine);
     }
+    auto letters = letters_.begin();
     for (const std::uint32_t place : namesOfProject_.All()) {
         const Token& token = tokens[place];
         const bool isKnown = token.word < words_.size() && words_[token.word].lastModule == module_;
-        if (!isKnown) EnterMet(token, text);
+        if (isKnown) continue;
+        while (letters != letters_.end() && letters->end < &token) ++letters;
+        const bool isLetter = letters != letters_.end() && letters->first < &token;
+        if (!isLetter) EnterMet(token, text);
     }
     return std::move(held_);
 }

@@ -25,8 +25,8 @@ class Capitalisation {
     /// words of the tokens bear the numbers of one table in all calls.
     std::vector<std::uint32_t> Learn(const Tokens& tokens, TextView text);
 
-    /// The capitalisation of a name that was learned. Asks for nothing but the name: whether a word stands for a
-    /// keyword at its place is the caller's matter.
+    /// The capitalisation of a name that was learned; of any other one `name` itself. Asks for nothing but the name:
+    /// whether a word stands for a keyword at its place is the caller's matter.
     TextView SpellingOf(TextView name) const { return names_.SpellingOf(name); }
 
     /// False if the name stands everywhere as `SpellingOf` gives it, and is no contextual word that was declared in
@@ -49,6 +49,12 @@ class Capitalisation {
         std::span<const std::uint32_t> All() const { return std::span(memory).first(count); }
     };
 
+    // A statement that gives types to letters, which are no names.
+    struct LetterStatement {
+        const Token* first;
+        const Token* end;
+    };
+
     void FindPlaces(const Tokens& tokens);
     Word& WordOf(const Token& token);
     void EnterDeclared(const Token& token, TextView text);
@@ -61,6 +67,7 @@ class Capitalisation {
     std::vector<std::uint32_t> held_;
     TokenPlaces statementEnds_;
     TokenPlaces namesOfProject_;
+    std::vector<LetterStatement> letters_;
 };
 
 }  // namespace zentlor::vba

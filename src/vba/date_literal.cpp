@@ -1,5 +1,5 @@
-// A date is a row of numbers, month names and day halves with separators in between, and at least two of them: `#1, #`
-// is none, and neither is `#1#`. Whether the numbers make a real day is not asked.
+// A date is a row of numbers, month names and day halves with separators in between, and at least two of them: `#1#` is
+// none, and neither is `#1, 2, #`. Whether the numbers make a real day is not asked.
 
 #include "vba/date_literal.h"
 
@@ -27,14 +27,19 @@ bool IsDateWord(TextView word) {
     });
 }
 
+bool IsBlank(char16_t c) {
+    return c == u' ' || c == u'\t';
+}
+
 bool IsSeparator(char16_t c) {
-    return c == u' ' || c == u'\t' || c == u'/' || c == u'-' || c == u':' || c == u',' || c == u'.';
+    return IsBlank(c) || c == u'/' || c == u'-' || c == u':' || c == u',' || c == u'.';
 }
 
 }  // namespace
 
 std::size_t DateLiteralLength(TextView text) {
     std::size_t parts = 0;
+    bool isComplete = false;  // no comma, slash or the like waits for a part behind it
     std::size_t i = 1;
     while (i < text.size() && FoldWidth(text[i]) != u'#') {
         const std::size_t start = i;
@@ -43,13 +48,15 @@ std::size_t DateLiteralLength(TextView text) {
         if (i > start) {
             if (trait == kNameStart && !IsDateWord(text.substr(start, i - start))) return 0;
             ++parts;
+            isComplete = true;
         } else if (IsSeparator(FoldWidth(text[i]))) {
+            isComplete = isComplete && IsBlank(FoldWidth(text[i]));
             ++i;
         } else {
             return 0;
         }
     }
-    return i < text.size() && parts >= 2 ? i + 1 : 0;
+    return i < text.size() && parts >= 2 && isComplete ? i + 1 : 0;
 }
 
 }  // namespace zentlor::vba

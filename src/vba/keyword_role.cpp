@@ -3,6 +3,8 @@
 
 #include "vba/keyword_role.h"
 
+#include "vba/statement_head.h"
+
 namespace zentlor::vba {
 namespace {
 
@@ -103,7 +105,7 @@ bool StandsAsKeyword(const Tokens& tokens, std::size_t index, std::size_t statem
         case Keyword::Line:
             return place.IsFirst() && place.Behind().Is(Keyword::Input);
         case Keyword::Name:
-            return place.IsFirst() && place.PrecedesOperand();
+            return place.IsFirst() && (place.PrecedesOperand() || IsRename(&token));
         case Keyword::Object:
             return place.IsBehind(Keyword::As);
         case Keyword::Property:

@@ -79,8 +79,4 @@ bool IsContextual(Keyword keyword) {
     return keyword != Keyword::None && kRows[static_cast<std::size_t>(keyword)].wordClass == WordClass::Contextual;
 }
 
-bool IsRangeStatement(Keyword keyword) {
-    return keyword >= Keyword::DefBool && keyword <= Keyword::DefVar;
-}
-
 }  // namespace zentlor::vba

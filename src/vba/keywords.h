@@ -38,8 +38,11 @@ bool IsReserved(Keyword keyword);
 /// True for words that a project may declare as a name of its own: `Name`, `Line`, `Text`; False for `Date` and `Dim`.
 bool IsContextual(Keyword keyword);
 
-/// True for `DefBool` to `DefVar`.
-bool IsRangeStatement(Keyword keyword);
+/// True for `DefBool` to `DefVar`. They give types to letters, which the editor shows as capitals and which are no
+/// names.
+constexpr bool IsRangeStatement(Keyword keyword) {
+    return keyword >= Keyword::DefBool && keyword <= Keyword::DefVar;
+}
 
 /// True for the reserved words among the names of types: `Integer`, `Variant`.
 constexpr bool IsTypeName(Keyword keyword) {

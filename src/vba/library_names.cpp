@@ -52,7 +52,7 @@ const TextView kLibraryNames =
     u"CopyObject CurrentDb CurrentProject CurrentUser CurrentView DAvg DCount DeleteObject DFirst Dirty DisplayAlerts "
     u"DLast "
     u"DLookup DMax DMin DoCmd DoMenuItem DStDev DStDevP DSum DVar DVarP Echo Enabled Eval FilterOn FindFirst FindLast "
-    u"FindNext FindPrevious FindRecord Form Forms Goto GoToControl GoToPage GoToRecord HasData Hourglass ItemsSelected "
+    u"FindNext FindPrevious FindRecord Form Forms GoToControl GoToPage GoToRecord HasData Hourglass ItemsSelected "
     u"LimitToList ListCount ListIndex Locked Maximize Minimize MoveSize Nz OldValue OnClick OpenArgs "
     u"OpenCurrentDatabase "
     u"OpenForm OpenModule OpenQuery OpenReport OpenTable OrderBy OrderByOn OutputTo Parent PrintOut Quit Recalc "

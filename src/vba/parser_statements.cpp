@@ -3,6 +3,8 @@
 
 #include "vba/parser_statements.h"
 
+#include "vba/statement_head.h"
+
 namespace zentlor::vba {
 
 StatementParser::StatementParser(TextView text, const Tokens& tokens, FoundFaults& faults)
@@ -169,7 +171,7 @@ bool StatementParser::ParseNameStatement() {
             if (Ahead().Is(Keyword::Input)) Advance();
             break;
         case Keyword::Name:
-            if (Ahead().IsWord() || Ahead().Is(TokenKind::String)) return ParseNameAs();
+            if (Ahead().IsWord() || Ahead().Is(TokenKind::String) || IsRename(&word)) return ParseNameAs();
             break;
         default:
             break;

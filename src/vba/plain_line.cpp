@@ -85,8 +85,7 @@ class PlainLine {
             case Piece::Colon:
                 return (&token)[1].Is(TokenKind::EndOfLine);
             case Piece::Sign:
-                return !(before_ == Before::Close && MayJoinPoints((&token)[1])) &&
-                       !IsRangeStatement(Statement().keyword());
+                return !(before_ == Before::Close && MayJoinPoints((&token)[1]));
             case Piece::Comment:
                 return token.keyword() != Keyword::Rem;
             case Piece::Continuation:

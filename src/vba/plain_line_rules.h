@@ -172,6 +172,7 @@ constexpr Piece PieceOf(Operator op) {
 
 constexpr Piece PieceOfReserved(Keyword keyword) {
     if (keyword == Keyword::Then || keyword == Keyword::Else) return Piece::StatementWord;
+    if (IsRangeStatement(keyword)) return Piece::Unreadable;
     if (IsTypeName(keyword)) return Piece::TypeName;
     return IsLiteralWord(keyword) ? Piece::Literal : Piece::Keyword;
 }

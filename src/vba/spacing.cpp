@@ -32,7 +32,7 @@ Gap Spacing::Before(std::size_t index) {
         case TokenKind::Continuation:
             return Gap::One;
         case TokenKind::Comment:
-            return token.keyword() == Keyword::Rem && IsBehind(Operator::Colon) ? Gap::One : Gap::Kept;
+            return Gap::Kept;
         default:
             break;
     }
@@ -47,7 +47,8 @@ void Spacing::BeginStatement(std::size_t index) {
     statement_ = index;
     const Token& token = tokens_[index];
     const bool beginsChain = token.kind == TokenKind::Name || token.Is(Operator::Dot) || token.Is(Operator::Bang);
-    head_ = beginsChain ? ReadStatementHead(tokens_, index) : StatementHead{};
+    renames_ = token.Is(Keyword::Name) && IsRename(&token);
+    head_ = beginsChain && !renames_ ? ReadStatementHead(tokens_, index) : StatementHead{};
 }
 
 Gap Spacing::GapOf(std::size_t index) const {
@@ -111,10 +112,11 @@ Gap Spacing::GapOfMemberMark(std::size_t index) const {
     return clings ? Gap::None : Gap::One;
 }
 
-// `Step` of a `For` statement is the one contextual keyword that stands in front of an operand.
+// `Step` of a `For` statement and the `Name` that renames are the contextual keywords in front of an operand.
 bool Spacing::EndsOperand(const Token& token) const {
     switch (token.kind) {
         case TokenKind::Name:
+            if (renames_ && &token == &tokens_[statement_]) return false;
             return !(token.Is(Keyword::Step) && tokens_[statement_].Is(Keyword::For));
         case TokenKind::Keyword:
             return IsLiteralWord(token.keyword());
@@ -138,16 +140,9 @@ bool Spacing::IsJoiningMinus(std::size_t index) const {
     return head_.isDrawing && tokens_[index - 1].Is(Operator::CloseParenthesis) && BeginsPoint(tokens_[index + 1]);
 }
 
-bool Spacing::IsLabelColon(std::size_t index) const {
-    return previous_ == line_ && tokens_[index].Is(Operator::Colon) &&
-           (tokens_[line_].kind == TokenKind::Name || tokens_[line_].kind == TokenKind::Integer);
-}
-
 // Declarations keep an alignment of their "As"; `Open x For Input As #1` and `Name x As y` declare nothing.
 bool Spacing::KeepsAs() const {
-    const Token& first = tokens_[statement_];
-    const bool renames = first.Is(Keyword::Name) && previous_ != statement_;
-    return !renames && !first.Is(Keyword::Open);
+    return !renames_ && !tokens_[statement_].Is(Keyword::Open);
 }
 
 bool Spacing::IsBehind(Operator op) const {
@@ -157,7 +152,7 @@ bool Spacing::IsBehind(Operator op) const {
 void Spacing::Advance(std::size_t index) {
     const Token& token = tokens_[index];
     const bool isNumber = index == line_ && token.kind == TokenKind::Integer;
-    isKept_ = isNumber || IsLabelColon(index);
+    isKept_ = isNumber || token.Is(Operator::Colon);
     startsStatement_ = isNumber || token.Is(Operator::Colon) || token.Is(Keyword::Then) || token.Is(Keyword::Else);
     switch (token.op()) {
         case Operator::OpenParenthesis:

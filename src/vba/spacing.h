@@ -40,7 +40,6 @@ class Spacing {
     Gap GapOfMemberMark(std::size_t index) const;
     bool IsSign(std::size_t index) const;
     bool IsJoiningMinus(std::size_t index) const;
-    bool IsLabelColon(std::size_t index) const;
     bool EndsOperand(const Token& token) const;
     bool IsSecondHalf(std::size_t index) const;
     bool KeepsAs() const;
@@ -53,8 +52,9 @@ class Spacing {
     std::size_t statement_ = 0;        // the statement's first token
     std::size_t previous_ = kNoToken;  // the token before, continuations left out
     bool startsStatement_ = true;
+    bool renames_ = false;  // the statement is `Name a As b`
     bool isTight_ = false;  // nothing stands between the token before and the next one
-    bool isKept_ = false;   // behind a label or line number: the next gap is indentation
+    bool isKept_ = false;   // behind a colon or line number: the next gap is alignment
 };
 
 }  // namespace zentlor::vba

@@ -82,7 +82,8 @@ std::uint32_t SpellingTable::Add(TextView name, NameRank rank) {
 }
 
 TextView SpellingTable::SpellingOf(TextView name) const {
-    return entries_[slots_[FindSlot(name, HashName(name))] - 1].spelling;
+    const std::uint32_t slot = slots_[FindSlot(name, HashName(name))];
+    return slot == 0 ? name : entries_[slot - 1].spelling;
 }
 
 bool SpellingTable::Holds(TextView name) const {

@@ -24,7 +24,8 @@ class SpellingTable {
     /// Returns the name's number, the same for every capitalisation.
     std::uint32_t Add(TextView name, NameRank rank);
 
-    /// The capitalisation of a name that was added, whatever its own. Valid until the next `Add`.
+    /// The capitalisation of a name that was added, whatever its own; `name` itself if it was not. Valid until the next
+    /// `Add`.
     TextView SpellingOf(TextView name) const;
 
     /// True if the name was added in more than one capitalisation, so that some place must be changed.

@@ -6,6 +6,10 @@
 namespace zentlor::vba {
 namespace {
 
+bool EndsStatement(const Token& token) {
+    return token.Has(kEndsStatement) || token.Is(TokenKind::EndOfText);
+}
+
 // The ")" of the "(" at `open`, or `kNoToken` if the statement ends before.
 std::size_t FindClose(const Tokens& tokens, std::size_t open) {
     int depth = 0;
@@ -13,9 +17,7 @@ std::size_t FindClose(const Tokens& tokens, std::size_t open) {
         const Token& token = tokens[i];
         if (token.Is(Operator::OpenParenthesis)) ++depth;
         if (token.Is(Operator::CloseParenthesis) && --depth == 0) return i;
-        const bool ends = token.Is(TokenKind::EndOfLine) || token.Is(TokenKind::EndOfText) ||
-                          token.Is(Operator::Colon) || token.Is(Keyword::Then) || token.Is(Keyword::Else);
-        if (ends) return kNoToken;
+        if (EndsStatement(token)) return kNoToken;
     }
 }
 
@@ -29,7 +31,30 @@ bool BeginsArgument(const Tokens& tokens, std::size_t mark) {
            tokens[mark + 1].offset == tokens[mark].End();
 }
 
+// Whether nothing but a type stands behind `As`: `As Long`, `As ADODB.Field`, `As String * 5`.
+bool MayBeTypeClause(const Token* as) {
+    const Token* token = as + 1;
+    if (!token->IsWord()) return false;
+    for (++token; token->Is(Operator::Dot) && token[1].IsWord(); token += 2) {
+    }
+    return EndsStatement(*token) || token->Is(TokenKind::Comment) || token->Is(Operator::Times);
+}
+
 }  // namespace
+
+bool IsRename(const Token* name) {
+    int depth = 0;
+    bool isOneList = true;  // nothing stands between the name and `As` but one pair of parentheses
+    for (const Token* token = name + 1; !EndsStatement(*token); ++token) {
+        if (depth == 0 && token > name + 1 && !token->Is(Keyword::As)) isOneList = false;
+        if (token->Is(Operator::OpenParenthesis)) ++depth;
+        if (token->Is(Operator::CloseParenthesis)) --depth;
+        if (!token->Is(Keyword::As) || depth != 0) continue;
+        const bool mayDeclare = name[1].Is(Operator::OpenParenthesis) && name[1].offset == name->End();
+        return token > name + 1 && !(mayDeclare && isOneList && MayBeTypeClause(token));
+    }
+    return false;
+}
 
 StatementHead ReadStatementHead(const Tokens& tokens, std::size_t start) {
     StatementHead head;

@@ -25,6 +25,11 @@ struct StatementHead {
 /// Reads the chain that begins at token `start`, a name, "." or "!". Looks at tokens of the one statement alone.
 StatementHead ReadStatementHead(const Tokens& tokens, std::size_t start);
 
+/// Whether the `Name` that begins a statement renames a file, `Name a As b`: then an `As` follows outside of
+/// parentheses, which neither a call nor an assignment has. A type's member `Name(9) As Long` differs from `Name (a) As
+/// b` in the blank alone. Looks at tokens of the one statement alone.
+bool IsRename(const Token* name);
+
 /// The first token at or behind `index` that is no continuation.
 inline std::size_t SkipContinuations(const Tokens& tokens, std::size_t index) {
     while (tokens[index].kind == TokenKind::Continuation) ++index;

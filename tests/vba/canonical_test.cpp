@@ -73,9 +73,12 @@ TEST(Canonical, ListsAndParentheses) {
         {"a member of With as argument", u"Foo .Bar, !b", u"Foo .Bar, !b"},
         {"members", u"a . b ! c=. d", u"a.b!c = .d"},
         {"print lists", u"Print #1,a;b ;: Debug.Print(a);b", u"Print #1, a; b;: Debug.Print (a); b"},
-        {"the short form of Print", u"?a:  ?  b", u"Print a: Print b"},
+        {"the short form of Print", u"?a:  ?  b", u"Print a:  Print b"},
         {"drawing", u"Me.Line(0,0) - (x,y),,BF: Line - Step (1,2)", u"Me.Line (0, 0)-(x, y), , BF: Line -Step(1, 2)"},
-        {"letters", u"defint a - c,x-z", u"DefInt a-c, x-z"},
+        {"letters, which are no names", u"defint a - c,x-z:defstr b\nb = A", u"DefInt A-C, X-Z: DefStr B\nb = A"},
+        {"a file renamed, and other names",
+         u"name(a&b)as(c):Name .p as !q:Name a   as b:name(1)=2\nname (a) as b\nname(9)  as b.T",
+         u"Name (a & b) As (c): Name .p As !q: Name a As b: Name(1) = 2\nName (a) As b\nName(9)  As b.T"},
         {"bounds", u"ReDim Preserve x.y( -1 to n ,5)  As T", u"ReDim Preserve x.y(-1 To n, 5)  As T"},
         {"arrays", u"Function f ()   as string ()", u"Function f()   As String()"},
     });
@@ -93,7 +96,8 @@ TEST(Canonical, HeadersAndLines) {
          u"Declare PtrSafe Sub Foo Lib \"a\" (ByVal x As Any)"},
         {"no header", u"Exit Sub: End Function", u"Exit Sub: End Function"},
         {"labels and numbers", u"Foo:x=1\n10   y=2\n20:z=3", u"Foo: x = 1\n10   y = 2\n20: z = 3"},
-        {"colons", u"a=1 :b=2  :  c=3:", u"a = 1: b = 2: c = 3:"},
+        {"colons, with what is aligned behind them", u"a=1 :b=2  :  c=3:\nCase 1:\tx=1\nL:  y=1",
+         u"a = 1: b = 2:  c = 3:\nCase 1: x = 1\nL:  y = 1"},
         {"directives", u"#if VBA7 then\n#elseif x Then\n#ELSE\n# endif\n#const a=1",
          u"#If VBA7 Then\n#ElseIf x Then\n#Else\n#End If\n#Const a = 1"},
         {"indentation", u"\tx=1\n  \ty=2\n   \n", u"    x = 1\n    y = 2\n   \n"},
@@ -108,7 +112,7 @@ TEST(Canonical, Comments) {
         {"text stays", u"x=1   '  dim  A   b ", u"x = 1   '  dim  A   b "},
         {"a tab in front", u"x\t'a", u"x   'a"},
         {"no blank in front", u"x=1'a", u"x = 1 'a"},
-        {"Rem", u"REM  a\nx=1:   rem b", u"Rem  a\nx = 1: Rem b"},
+        {"Rem", u"REM  a\nx=1:   rem b", u"Rem  a\nx = 1:   Rem b"},
         {"continued", u"'a _\n\tdim  b _\n c\nx=1", u"'a _\n\tdim  b _\n c\nx = 1"},
     });
 }
@@ -200,11 +204,11 @@ TEST(Canonical, DisorderLeavesNoTrace) {
 // Any text: the second pass changes nothing, and the number of lines stays.
 TEST(Canonical, OnceIsEnough) {
     const TextView pieces[] = {
-        u"a",  u"Wert", u"left$", u"Sub", u"As",   u"Step", u"For",  u"1",    u"#1",   u"&HF", u"\"s\"",
-        u"'x", u"Rem",  u"(",     u")",   u".",    u"!",    u",",    u";",    u":",    u"-",   u"=",
-        u"<",  u"&",    u"^",     u"#",   u"\n",   u" _\n", u"\t",   u" ",    u"  ",   u"[a]", u"%",
-        u"Go", u"To",   u"If",    u"?",   u"Line", u"1.5",  u"_",    u"Name", u"Open", u"{",   u"　",
-        u"Ä",  u"１",   u"Then",  u"Dim", u"Long", u"True", u"Else", u"+",    u">=",   u":=",  u"Print"};
+        u"a",    u"Wert", u"left$", u"Sub",  u"As",   u"Step", u"For",   u"1",     u"#1", u"&HF", u"\"s\"", u"'x",
+        u"Rem",  u"(",    u")",     u".",    u"!",    u",",    u";",     u":",     u"-",  u"=",   u"<",     u"&",
+        u"^",    u"#",    u"\n",    u" _\n", u"\t",   u" ",    u"  ",    u"[a]",   u"%",  u"Go",  u"To",    u"If",
+        u"?",    u"Line", u"1.5",   u"_",    u"Name", u"Open", u"{",     u"　",    u"Ä",  u"１",  u"Then",  u"Dim",
+        u"Long", u"True", u"Else",  u"+",    u">=",   u":=",   u"Print", u"DefInt"};
     Random random(3);
     for (int round = 0; round < 30000; ++round) {
         Text code;

@@ -166,8 +166,8 @@ Text Blanks(Random& random, std::size_t least) {
 }
 
 // The blanks to put between the tokens `before` and `token`, which now stand `present` apart.
-Text ScrambledGap(const Token& before, const Token& token, TextView present, bool isLabel, Random& random) {
-    const bool isKept = token.Is(vba::Keyword::As) || token.kind == TokenKind::Comment || isLabel ||
+Text ScrambledGap(const Token& before, const Token& token, TextView present, Random& random) {
+    const bool isKept = token.Is(vba::Keyword::As) || token.kind == TokenKind::Comment || before.Is(Operator::Colon) ||
                         token.kind == TokenKind::EndOfLine || token.kind == TokenKind::EndOfText ||
                         before.kind == TokenKind::Comment || before.kind == TokenKind::EndOfLine;
     if (isKept) return Text(present);
@@ -199,12 +199,9 @@ Text Scramble(TextView canonical, Random& random) {
     Text scrambled;
     Token before;
     before.kind = TokenKind::EndOfLine;
-    bool isLabel = false;
-    for (std::size_t i = 0; i < tokens.size(); ++i) {
-        const Token& token = tokens[i];
+    for (const Token& token : tokens) {
         const TextView present = canonical.substr(before.End(), token.offset - before.End());
-        scrambled += ScrambledGap(before, token, present, isLabel, random);
-        isLabel = token.Is(Operator::Colon) && i >= 1 && (i < 2 || tokens[i - 2].Is(TokenKind::EndOfLine));
+        scrambled += ScrambledGap(before, token, present, random);
         for (char16_t c : vba::TextOf(token, canonical)) {
             const bool mayChange = !IsFixed(token) && c < 128 && random() % 2 == 0;
             if (mayChange) c = static_cast<char16_t>(std::islower(c) != 0 ? std::toupper(c) : std::tolower(c));

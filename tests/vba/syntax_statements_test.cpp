@@ -133,14 +133,16 @@ constexpr Row kFiles[] = {
     {"Open in parts",
      u"Open f For Input As 1: Open f For Append Shared As #n: Open f As #1 Len = 20: Open f For Output As #FreeFile\n"
      u"Open f For Random Access Read Write Lock Read Write As n Len = Len(x): Open f For Input Lock Write As #1"},
-    {"Close and Reset", u"Close: Close #1: Close #1, #2: Close 1, n: Reset"},
+    {"Close and Reset", u"Close: Close #1: Close #1, #2, 3, #4: Close 1, n: Reset"},
     {"Get and Put", u"Get #1, , x: Put #1, 5, x.y: Get 1, , b(): Put f, , x"},
     {"Print", u"Print #1,: Print #1: Print #1, x; y, z;: Print #n, Tab(5); x;: Print #1, Spc(3) x"},
     {"Write", u"Write #1,: Write #1, x, y: Write #1"},
     {"Input", u"Input #1, x, y: Line Input #1, s: Line Input 1, s: s = Input(5, #1): s = Input$(LOF(1), 1)"},
     {"Seek, Lock, Unlock, Width",
      u"Seek #1, 5: n = Seek(1): Lock #1: Lock #1, 1 To 2: Lock #1, To 2: Unlock 1, 2: Width #1, 80"},
-    {"Name", u"Name \"a\" As \"b\": Name x As y: Name (x) As y: Name x & \"a\" As y & \"b\": Name x.y As z"},
+    {"Name",
+     u"Name \"a\" As \"b\": Name x As y: Name (x) As y: Name x & \"a\" As y & \"b\": Name x.y As z: "
+     u"Name (x) & \"a\" As y: With f: Name .x & \"a\" As .y: Name !x As !y: End With"},
 };
 
 constexpr Row kDrawing[] = {
