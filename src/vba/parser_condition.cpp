@@ -233,7 +233,7 @@ class ConditionReader {
         if (sign.Is(Operator::Minus)) return Number(-Read(kSignRank).number);
         if (sign.Is(Operator::Plus)) return Read(kSignRank);
         if (!sign.Is(Operator::OpenParenthesis)) return {};
-        const ConditionValue value = Read(1);
+        ConditionValue value = Read(1);
         if (token_->Is(Operator::CloseParenthesis)) Advance();
         return value;
     }
