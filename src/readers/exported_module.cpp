@@ -71,6 +71,14 @@ AccessExport FindCodeBehind(TextView text, bool report) {
     return found;
 }
 
+// Some tools write the code of a form into a file of its own, and leave `' See "Kunden.cls"` behind in the layout's.
+bool NamesOtherFile(TextView code) {
+    const TextView line = Trim(code.substr(0, code.find_first_of(u"\r\n")));
+    const bool isAlone =
+        code.find_first_not_of(u"\r\n", std::min(code.find_first_of(u"\r\n"), code.size())) == code.npos;
+    return isAlone && line.starts_with(u"' See \"") && line.ends_with(u".cls\"");
+}
+
 // The module of the form Kunden is called Form_Kunden, but its export names the form alone, in the name of its file.
 Text NameOfAccessModule(const Text& stem, bool report) {
     const TextView prefix = report ? TextView(u"Report_") : TextView(u"Form_");
@@ -134,6 +142,7 @@ std::optional<SourceModule> ReadExportedModule(std::string_view bytes, const std
              "“[%1]” breaks off in front of its code; export the object from Access once more.", {path});
     }
     if (access) text.erase(0, *access->code);
+    if (access && NamesOtherFile(text)) return std::nullopt;
     StrippedCode stripped = StripAttributes(std::move(text));
 
     SourceModule module;

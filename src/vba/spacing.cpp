@@ -137,7 +137,7 @@ bool Spacing::IsSign(std::size_t index) const {
 bool Spacing::IsJoiningMinus(std::size_t index) const {
     if (index == kNoToken || !tokens_[index].Is(Operator::Minus) || index == statement_) return false;
     if (IsRangeStatement(tokens_[statement_].keyword()) && tokens_[statement_].kind == TokenKind::Keyword) return true;
-    return head_.isDrawing && tokens_[index - 1].Is(Operator::CloseParenthesis) && BeginsPoint(tokens_[index + 1]);
+    return head_.isDrawing && IsBehind(Operator::CloseParenthesis) && BeginsPoint(tokens_[index + 1]);
 }
 
 // Declarations keep an alignment of their "As"; `Open x For Input As #1` and `Name x As y` declare nothing.

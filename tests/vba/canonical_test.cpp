@@ -75,6 +75,7 @@ TEST(Canonical, ListsAndParentheses) {
         {"print lists", u"Print #1,a;b ;: Debug.Print(a);b", u"Print #1, a; b;: Debug.Print (a); b"},
         {"the short form of Print", u"?a:  ?  b", u"Print a:  Print b"},
         {"drawing", u"Me.Line(0,0) - (x,y),,BF: Line - Step (1,2)", u"Me.Line (0, 0)-(x, y), , BF: Line -Step(1, 2)"},
+        {"drawing on two lines", u"x.Line(a,b)_\n-(c,d),e", u"x.Line (a, b) _\n-(c, d), e"},
         {"letters, which are no names", u"defint a - c,x-z:defstr b\nb = A", u"DefInt A-C, X-Z: DefStr B\nb = A"},
         {"a file renamed, and other names",
          u"name(a&b)as(c):Name .p as !q:Name a   as b:name(1)=2\nname (a) as b\nname(9)  as b.T",

@@ -123,11 +123,13 @@ TEST(Workspace, FormWithoutModuleIsNoModule) {
     const TemporaryFolder folder;
     WriteFile(folder.path / "Kunden.txt", "Version =20\nBegin Form\nEnd\nCodeBehindForm\nDim a\n");
     WriteFile(folder.path / "Start.txt", "Version =20\nBegin Form\nEnd\n");
+    WriteFile(folder.path / "Liste.bas",
+              "Version =20\r\nBegin Form\r\nEnd\r\nCodeBehindForm\r\n' See \"Liste.cls\"\r\n");
     const Workspace opened = Open({folder.path.string()}, {});
     ASSERT_EQ(opened.projects.size(), 1U);
     EXPECT_EQ(opened.projects[0].project->VBComponents().size(), 1U);
     EXPECT_EQ(opened.projects[0].origins[0].FileLine(1), 5);
-    EXPECT_EQ(opened.empty.size(), 1U);
+    EXPECT_EQ(opened.empty.size(), 2U);
     EXPECT_TRUE(opened.Complete());
 }
 
