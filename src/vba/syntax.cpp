@@ -41,35 +41,16 @@ FoundFaults FaultsOfBranches(TextView text, const Tokens& tokens) {
     return first;
 }
 
-// The longest name that the editor takes. A bracketed one is no identifier of the language.
-constexpr std::size_t kLongestName = 255;
-
 bool IsTooLong(const Token& token, TextView text) {
     return token.kind == TokenKind::Name && token.length > kLongestName && !token.Has(kBracketed) &&
            NameOf(token, text).size() > kLongestName;
 }
 
-// What few modules have, and what takes a further look at those that have it.
-struct Rarities {
-    bool directive = false;
-    bool longToken = false;
-};
-
-Rarities FindRarities(const Tokens& tokens) {
-    Rarities found;
-    for (const Token& token : tokens) {
-        found.directive |= token.kind == TokenKind::Directive;
-        found.longToken |= token.length > kLongestName;
-    }
-    return found;
-}
-
 }  // namespace
 
 std::vector<SyntaxError> CheckSyntax(TextView text, const Tokens& tokens) {
-    const Rarities has = FindRarities(tokens);
-    FoundFaults faults = has.directive ? FaultsOfBranches(text, tokens) : FaultsOf(text, tokens);
-    if (has.longToken) {
+    FoundFaults faults = tokens.HoldDirective() ? FaultsOfBranches(text, tokens) : FaultsOf(text, tokens);
+    if (tokens.HoldLongToken()) {
         for (const Token& token : tokens) {
             if (IsTooLong(token, text)) faults.push_back({token.offset, Fault::NameTooLong, {}});
         }

@@ -98,12 +98,16 @@ struct Token {
 
 static_assert(sizeof(Token) == 16 && std::is_trivially_copyable_v<Token>);
 
+/// The longest name that the editor takes. A bracketed one is no identifier of the language.
+inline constexpr std::size_t kLongestName = 255;
+
 /// The tokens of a text, one behind the other. There is room for as many as were asked for, and no more; what of it is
 /// never written costs nothing.
 class Tokens {
   public:
     /// No tokens, and room for `most`. Memory is used again.
     void Reset(std::size_t most) {
+        holdDirective_ = holdLongToken_ = false;
         end_ = memory_.get();
         if (most <= room_) return;
         memory_.reset();  // first, so that both are never held
@@ -117,6 +121,13 @@ class Tokens {
     /// For a writer that goes on at the end and says then where it stopped.
     Token* end() { return end_; }
     void SetEnd(Token* end) { end_ = end; }
+
+    /// What few texts have. The tokenizer notes it, so that nobody need look for it in the others.
+    void NoteDirective() { holdDirective_ = true; }
+    void NoteLongToken() { holdLongToken_ = true; }
+    bool HoldDirective() const { return holdDirective_; }
+    /// Whether there is a token of more than `kLongestName` characters, of whatever kind.
+    bool HoldLongToken() const { return holdLongToken_; }
 
     const Token* begin() const { return memory_.get(); }
     const Token* end() const { return end_; }
@@ -133,6 +144,8 @@ class Tokens {
     std::unique_ptr<Token, Free> memory_;
     Token* end_ = nullptr;
     std::size_t room_ = 0;
+    bool holdDirective_ = false;
+    bool holdLongToken_ = false;
 };
 
 inline TextView TextOf(const Token& token, TextView text) {

@@ -56,6 +56,8 @@ class Scanner {
              std::uint32_t word = kNoWord) {
         const Token token{static_cast<std::uint32_t>(at_), static_cast<std::uint32_t>(length), kind, flags, id, word};
         tokens_.Append(token);
+        if (kind == TokenKind::Directive) tokens_.NoteDirective();
+        if (length > kLongestName) tokens_.NoteLongToken();
         if (kind != TokenKind::Continuation) previous_ = token;
         at_ += length;
     }
@@ -110,7 +112,7 @@ class Scanner {
                     const std::size_t end = offset + word.length;
                     const char16_t behind = end < text.size() ? text[end] : u'\n';
                     const bool endsHere = behind < 128 && (kCharacterTable[behind] & kTypeMark) == 0;
-                    if (!endsHere || word.length == 0) return cursor;
+                    if (!endsHere || word.length - 1 >= kLongestName) return cursor;  // 0: not met before
                     const auto id = static_cast<std::uint16_t>(word.keyword);
                     if (IsPoint(*cursor.previous)) {
                         add({offset, word.length, TokenKind::Name, MemberFlags(word), id, number});
