@@ -49,8 +49,8 @@ bool IsTooLong(const Token& token, TextView text) {
 }  // namespace
 
 std::vector<SyntaxError> CheckSyntax(TextView text, const Tokens& tokens) {
-    FoundFaults faults = tokens.HoldDirective() ? FaultsOfBranches(text, tokens) : FaultsOf(text, tokens);
-    if (tokens.HoldLongToken()) {
+    FoundFaults faults = tokens.HasDirective() ? FaultsOfBranches(text, tokens) : FaultsOf(text, tokens);
+    if (tokens.HasLongToken()) {
         for (const Token& token : tokens) {
             if (IsTooLong(token, text)) faults.push_back({token.offset, Fault::NameTooLong, {}});
         }

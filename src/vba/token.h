@@ -107,7 +107,7 @@ class Tokens {
   public:
     /// No tokens, and room for `most`. Memory is used again.
     void Reset(std::size_t most) {
-        holdDirective_ = holdLongToken_ = false;
+        hasDirective_ = hasLongToken_ = false;
         end_ = memory_.get();
         if (most <= room_) return;
         memory_.reset();  // first, so that both are never held
@@ -123,11 +123,11 @@ class Tokens {
     void SetEnd(Token* end) { end_ = end; }
 
     /// What few texts have. The tokenizer notes it, so that nobody need look for it in the others.
-    void NoteDirective() { holdDirective_ = true; }
-    void NoteLongToken() { holdLongToken_ = true; }
-    bool HoldDirective() const { return holdDirective_; }
+    void NoteDirective() { hasDirective_ = true; }
+    void NoteLongToken() { hasLongToken_ = true; }
+    bool HasDirective() const { return hasDirective_; }
     /// Whether there is a token of more than `kLongestName` characters, of whatever kind.
-    bool HoldLongToken() const { return holdLongToken_; }
+    bool HasLongToken() const { return hasLongToken_; }
 
     const Token* begin() const { return memory_.get(); }
     const Token* end() const { return end_; }
@@ -144,8 +144,8 @@ class Tokens {
     std::unique_ptr<Token, Free> memory_;
     Token* end_ = nullptr;
     std::size_t room_ = 0;
-    bool holdDirective_ = false;
-    bool holdLongToken_ = false;
+    bool hasDirective_ = false;
+    bool hasLongToken_ = false;
 };
 
 inline TextView TextOf(const Token& token, TextView text) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "core/utilities/encoding.h"
 #include "vba/syntax.h"
 #include "vba/syntax_report.h"
 #include "vba/tokenizer.h"
@@ -45,6 +46,29 @@ TEST(SyntaxLimits, LongLinesAndLongModulesAreRead) {
     EXPECT_EQ(ErrorsOfBody(Repeat(u":", 10000) + u"x = 1" + Repeat(u": x = 2", 10000)), 0u);
     EXPECT_EQ(ErrorsOfBody(Repeat(u"x = x + 1\n", 65000)), 0u);
     EXPECT_EQ(ErrorsOfBody(u"x = 1 + " + Repeat(u"_\n", 50000) + u"2"), 0u);
+}
+
+// The second module of a project holds words that the first one had already.
+TEST(SyntaxLimits, NamesHaveAtMost255CharactersInEveryModule) {
+    struct Row {
+        Text statement;
+        std::size_t errors;
+    };
+    const Row rows[] = {
+        {Repeat(u"n", 255) + u" = 1", 0},         {Repeat(u"n", 256) + u" = 1", 1},
+        {Repeat(u"n", 255) + u"$ = x", 0},        {u"x." + Repeat(u"n", 256) + u" = 1", 1},
+        {u"[" + Repeat(u"n", 300) + u"] = 1", 0}, {u"x = \"" + Repeat(u"n", 300) + u"\" '" + Repeat(u"n", 300), 0},
+    };
+    WordTable words;
+    vba::Tokenizer tokenizer;
+    vba::Tokens tokens;
+    for (int module = 0; module < 2; ++module) {
+        for (const Row& row : rows) {
+            const Text code = u"Sub Test()\n" + row.statement + u"\nEnd Sub\n";
+            tokenizer.Read(code, words.Read(code), tokens);
+            EXPECT_EQ(vba::CheckSyntax(code, tokens).size(), row.errors) << module << ": " << ToUtf8(row.statement);
+        }
+    }
 }
 
 TEST(SyntaxLimits, ErrorsAreCountedUpToALimit) {
